@@ -1,0 +1,25 @@
+# Fails when a core source includes Qt or a Word back end.
+set(core_dirs runtime word settings toolkit formula solvers pictures launcher graph
+    figures charts inserts batch)
+set(bad "")
+foreach(dir ${core_dirs})
+  file(GLOB_RECURSE files ${SRC}/${dir}/*.h ${SRC}/${dir}/*.cpp)
+  foreach(f ${files})
+    # Dialogs (frm*/ui_*) sit beside the logic but belong to the UI library;
+    # back ends live below word/docx, word/com and word/fake.
+    get_filename_component(name ${f} NAME)
+    if(name MATCHES "^(frm|ui_|qt_)" OR f MATCHES "/word/(docx|com|fake)/")
+      continue()
+    endif()
+    file(STRINGS ${f} lines REGEX "^[ \t]*#[ \t]*include")
+    foreach(line ${lines})
+      if(line MATCHES "<Q[A-Za-z]+>|<Qt|\"word/(docx|com|fake)/")
+        list(APPEND bad "${f}: ${line}")
+      endif()
+    endforeach()
+  endforeach()
+endforeach()
+if(bad)
+  list(JOIN bad "\n" msg)
+  message(FATAL_ERROR "Core sources include Qt or a Word back end:\n${msg}")
+endif()

@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# Builds demo/worksheet.docx by running the finished tools one after another,
+# as a teacher would press their buttons, then a PDF when LibreOffice is there.
+set -euo pipefail
+build="${1:-build}"
+here="$(cd "$(dirname "$0")" && pwd)"
+lp="$build/src/app/lumenpad"
+doc="$here/worksheet.docx"
+rm -f "$doc"
+export QT_QPA_PLATFORM=offscreen
+for step in "$here"/steps/*.sh; do
+  [ -f "$step" ] || continue
+  echo "demo: $(basename "$step")"
+  LP="$lp" DOC="$doc" bash "$step"
+done
+if command -v soffice >/dev/null; then
+  soffice --headless --convert-to pdf --outdir "$here" "$doc" >/dev/null 2>&1 || true
+fi
+echo "demo: $doc"
