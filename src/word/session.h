@@ -1,0 +1,33 @@
+#pragma once
+// The state of one run: the Word application, the teacher's prompt, the
+// stored options, and the shape names of the figure being drawn. It sits
+// above the Word API and never knows which back end serves it.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "runtime/prompt.h"
+#include "settings/config_globals.h"
+#include "word/api.h"
+
+namespace lp {
+
+struct Session {
+  Session(word::Application& app, Prompt& prompt) : WordApp(&app), prompt(prompt) {}
+
+  word::Application* WordApp;  // not owned; null after ExitLumenpad
+  Prompt& prompt;
+  ConfigGlobals config;
+  std::u16string programFolder;  // the executable's folder, without a trailing separator
+
+  int16_t TemplateAttached = 0;
+  long ShapeCounter = 0;
+  std::vector<std::u16string> ShapeNames;  // element k of the original is ShapeNames[k - 1]
+  float AnchorX = 0;
+  float AnchorY = 0;
+  int16_t FigureOriginX = 180;
+  int16_t FigureOriginY = 180;
+};
+
+}  // namespace lp
