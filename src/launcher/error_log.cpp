@@ -1,0 +1,1 @@
+#include "launcher/error_log.h"

@@ -1,0 +1,2 @@
+#pragma once
+// ReportError, ShowInputError, TrailingZeros, ReadRegistryValue: to be written.

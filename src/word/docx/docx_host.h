@@ -1,0 +1,36 @@
+#pragma once
+// What the shape layer (drawing/) needs of the text engine, and what it gives
+// back. The text engine owns the package and document.xml; the shape layer
+// reads and writes the DrawingML anchors inside it.
+
+#include <memory>
+#include <vector>
+
+#include <pugixml.hpp>
+
+#include "word/api.h"
+
+namespace word::docx {
+
+class DocxHost {
+ public:
+  virtual ~DocxHost() = default;
+  virtual pugi::xml_document& DocumentXml() = 0;
+  // The w:p holding the selection: new floating shapes are anchored in it.
+  virtual pugi::xml_node CaretParagraph() = 0;
+  // A fresh id for wp:docPr, unique in the document.
+  virtual unsigned NextDrawingId() = 0;
+  virtual void MarkChanged() = 0;
+  // The whole story of a text box (a w:txbxContent element) as a range.
+  virtual std::unique_ptr<word::Range> StoryRange(pugi::xml_node txbxContent) = 0;
+  // Shape.Select: the selection becomes these shapes (the wp:anchor elements).
+  virtual void SelectShapes(const std::vector<pugi::xml_node>& anchors, bool replace) = 0;
+  virtual std::vector<pugi::xml_node> SelectedShapes() = 0;
+};
+
+// Implemented by the shape layer.
+std::unique_ptr<word::Shapes> MakeShapes(DocxHost& host);
+std::unique_ptr<word::ShapeRange> MakeShapeRange(DocxHost& host,
+                                                 const std::vector<pugi::xml_node>& anchors);
+
+}  // namespace word::docx
