@@ -8,6 +8,7 @@ set(LP_SRC ${PROJECT_SOURCE_DIR}/src)
 function(lp_core_library name)
   add_library(${name} STATIC ${ARGN})
   target_include_directories(${name} PUBLIC ${LP_SRC})
+  set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTORCC OFF)
   set_property(GLOBAL APPEND PROPERTY LP_CORE_TARGETS ${name})
 endfunction()
 
