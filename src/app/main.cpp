@@ -1,1 +1,157 @@
-int main() { return 0; }
+// lumenpad: one command word per run. Utility modes first, then the Word of
+// the run, the prompt, and SubMain; every end of the run goes through Finish,
+// which keeps the teacher's document before the process leaves.
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/back_end.h"
+#include "app/program_folder.h"
+#include "app/utility_dispatch.h"
+#include "launcher/error_log.h"
+#include "launcher/exit_lumenpad.h"
+#include "launcher/headless_prompt.h"
+#include "launcher/run_options.h"
+#include "launcher/select_text.h"
+#include "launcher/sub_main.h"
+#include "runtime/utf8.h"
+#include "settings/config_word.h"
+#include "settings/settings_store.h"
+#include "ui/headless_driver.h"
+#include "ui/qt_frontend.h"
+#include "ui/qt_prompt.h"
+#include "word/document_init.h"
+#include "word/docx/docx_error.h"
+
+namespace lp {
+namespace {
+
+void Complain(const std::string& text) {
+  std::fprintf(stderr, "lumenpad: %s\n", text.c_str());
+}
+
+// No screen to show a box on: script runs, tests, a machine without display.
+bool Headless(const RunOptions& options) {
+  if (options.Driven() || !options.answers.empty()) return true;
+#ifdef _WIN32
+  return false;
+#else
+  const char* platform = std::getenv("QT_QPA_PLATFORM");
+  if (platform && std::string(platform) == "offscreen") return true;
+  return !std::getenv("DISPLAY") && !std::getenv("WAYLAND_DISPLAY");
+#endif
+}
+
+class Run {
+ public:
+  Run(const RunOptions& options, BackEnd& backEnd)
+      : options_(options),
+        backEnd_(backEnd),
+        headless_(Headless(options)),
+        qt_(headless_),
+        prompt_(MakePrompt()),
+        session_(*prompt_),
+        frontend_(qt_, session_, headless_) {
+    session_.programFolder = FromUtf8(ProgramFolder());
+    session_.databasePath = DatabasePath(options.config, ProgramFolder());
+    session_.EndRun = [this] { Finish(); };
+  }
+
+  int Go() {
+    SubMain(session_, frontend_, FromUtf8(options_.commandLine), [this] { return DocumentInit(); });
+    if (frontend_.OpenForm()) {
+      if (headless_) {
+        Drive(*frontend_.OpenForm());
+      } else {
+        qt_.Get().exec();
+      }
+    }
+    Finish();
+    return status_;
+  }
+
+ private:
+  std::unique_ptr<Prompt> MakePrompt() {
+    if (!headless_) return std::make_unique<ui::QtPrompt>(qt_);
+    auto prompt = std::make_unique<HeadlessPrompt>();
+    for (const std::string& answer : options_.answers) prompt->Answer(FromUtf8(answer));
+    return prompt;
+  }
+
+  bool DocumentInit() {
+    if (!Document_Init(session_, backEnd_.Connector(), [this] { ConfigWord(session_); }))
+      return false;
+    if (options_.haveSelect && !SelectFirst(*session_.WordApp, FromUtf8(options_.select))) {
+      Complain("--select: the document doesn't hold " + options_.select);
+      status_ = 2;
+      return false;
+    }
+    return true;
+  }
+
+  // The dialog's unload ends the run; a dialog still open after the last
+  // action ends with it.
+  void Drive(QWidget& form) {
+    try {
+      for (const ControlAction& action : options_.actions) {
+        ui::ApplyAction(form, action);
+        QCoreApplication::processEvents();
+      }
+    } catch (const ui::DriverError& e) {
+      Complain(e.what());
+      status_ = 2;
+    }
+    ExitLumenpad(session_);
+  }
+
+  // Saves the document if the run changed it, then leaves at once.
+  [[noreturn]] void Finish() {
+    try {
+      backEnd_.SaveIfChanged();
+    } catch (const std::exception& e) {
+      ReportError(*prompt_, u"exitlumenpad", e);
+      status_ = 1;
+    }
+    std::fflush(stdout);
+    std::fflush(stderr);
+    std::_Exit(status_);
+  }
+
+  const RunOptions& options_;
+  BackEnd& backEnd_;
+  bool headless_;
+  ui::QtApp qt_;
+  std::unique_ptr<Prompt> prompt_;
+  Session session_;
+  ui::QtFrontend frontend_;
+  int status_ = 0;
+};
+
+int Main(const std::vector<std::string>& args) {
+  if (auto status = RunUtilityMode(args)) return *status;
+  RunOptions options;
+  std::unique_ptr<BackEnd> backEnd;
+  try {
+    options = ParseRunOptions(args);
+    backEnd = MakeBackEnd(options.doc);
+  } catch (const UsageError& e) {
+    Complain(e.what());
+    return 2;
+  } catch (const word::docx::DocxFileError& e) {
+    std::fprintf(stderr, "%s\n", e.what());
+    return 2;
+  }
+  Run run(options, *backEnd);
+  return run.Go();
+}
+
+}  // namespace
+}  // namespace lp
+
+int main(int argc, char** argv) {
+  return lp::Main(std::vector<std::string>(argv + 1, argv + argc));
+}

@@ -1,12 +1,8 @@
-#include <cstdio>
-
-#include "app/utility_modes.h"
+#include "app/formula_modes.h"
 
 namespace lp {
 
-int LatexMode(const ModeArgs&) {
-  std::fputs("not available yet\n", stderr);
-  return 1;
-}
+// LaTeX with its placeholders restored, without the dollar signs.
+int LatexMode(const ModeArgs& in) { return FormulaMode(in, FormulaToFinishedLatex); }
 
 }  // namespace lp

@@ -11,7 +11,9 @@ namespace lp {
 // Booleans are 16-bit and True is -1.
 constexpr int16_t vbTrue = -1;
 constexpr int16_t vbFalse = 0;
-constexpr int16_t CBool16(bool b) { return b ? vbTrue : vbFalse; }
+constexpr int16_t CBool16(bool b) {
+  return b ? vbTrue : vbFalse;
+}
 
 // The leading number of the text: blanks, tabs and line feeds anywhere are
 // skipped, reading stops at the first character that can't continue a

@@ -4,6 +4,7 @@
 // above the Word API and never knows which back end serves it.
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,11 +16,17 @@ namespace lp {
 
 struct Session {
   Session(word::Application& app, Prompt& prompt) : WordApp(&app), prompt(prompt) {}
+  // Before Document_Init has found Word.
+  explicit Session(Prompt& prompt) : WordApp(nullptr), prompt(prompt) {}
 
   word::Application* WordApp;  // not owned; null after ExitLumenpad
   Prompt& prompt;
   ConfigGlobals config;
   std::u16string programFolder;  // the executable's folder, without a trailing separator
+  std::string databasePath;      // the settings file of this run (UTF-8)
+  // How ExitLumenpad ends the run: the executable saves the document and
+  // leaves the process; tests only take note.
+  std::function<void()> EndRun;
 
   int16_t TemplateAttached = 0;
   long ShapeCounter = 0;

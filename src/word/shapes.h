@@ -6,6 +6,10 @@
 
 namespace word {
 
+[[noreturn]] inline void NotSupported() {
+  throw ComError(438, "Object doesn't support this property or method");
+}
+
 class ColorFormat {
  public:
   virtual ~ColorFormat() = default;
@@ -25,6 +29,12 @@ class LineFormat {
   virtual void SetDashStyle(MsoLineDashStyle style) = 0;
   virtual void SetBeginArrowheadStyle(MsoArrowheadStyle style) = 0;
   virtual void SetEndArrowheadStyle(MsoArrowheadStyle style) = 0;
+  // Added later than the members above: back ends that lack them answer as
+  // Word does for a member an object does not have.
+  virtual void SetBeginArrowheadLength(MsoArrowheadLength) { NotSupported(); }
+  virtual void SetBeginArrowheadWidth(MsoArrowheadWidth) { NotSupported(); }
+  virtual void SetEndArrowheadLength(MsoArrowheadLength) { NotSupported(); }
+  virtual void SetEndArrowheadWidth(MsoArrowheadWidth) { NotSupported(); }
 };
 
 class FillFormat {
@@ -48,6 +58,8 @@ class TextFrame {
   virtual void SetMarginRight(float points) = 0;
   virtual void SetMarginTop(float points) = 0;
   virtual void SetMarginBottom(float points) = 0;
+  // Whether the shape grows to fit its text (Word's AutoSize, 0 or -1).
+  virtual void SetAutoSize(bool) { NotSupported(); }
 };
 
 class WrapFormat {

@@ -84,7 +84,25 @@ enum MsoArrowheadStyle {
   msoArrowheadDiamond = 5,
   msoArrowheadOval = 6,
 };
-enum MsoShapeType { msoAutoShape = 1, msoFreeform = 5, msoGroup = 6, msoLine = 9, msoTextBox = 17 };
+enum MsoArrowheadLength {
+  msoArrowheadShort = 1,
+  msoArrowheadLengthMedium = 2,
+  msoArrowheadLong = 3,
+};
+enum MsoArrowheadWidth {
+  msoArrowheadNarrow = 1,
+  msoArrowheadWidthMedium = 2,
+  msoArrowheadWide = 3,
+};
+enum MsoShapeType {
+  msoAutoShape = 1,
+  msoFreeform = 5,
+  msoGroup = 6,
+  msoLine = 9,
+  msoPicture = 13,
+  msoTextBox = 17,
+  msoCanvas = 20,
+};
 enum WdWrapType {
   wdWrapSquare = 0,
   wdWrapTight = 1,

@@ -1,0 +1,46 @@
+#include "app/back_end.h"
+
+#include "formula/latex_to_omml.h"
+#include "runtime/utf8.h"
+#include "word/docx/docx_application.h"
+#include "word/types.h"
+
+namespace lp {
+namespace {
+
+// No Word to attach to or start on this system.
+class NoWord : public BackEnd, public WordConnector {
+ public:
+  WordConnector& Connector() override { return *this; }
+  void SaveIfChanged() override {}
+  word::Application& GetObject() override {
+    throw word::ComError(429, "ActiveX component can't create object");
+  }
+  word::Application& CreateObject() override { return GetObject(); }
+};
+
+// A .docx file: its application is the running Word, with the file open.
+class DocxFile : public BackEnd, public WordConnector {
+ public:
+  explicit DocxFile(const std::string& path)
+      : app_(word::docx::OpenDocx(std::filesystem::u8path(path))) {
+    // TeX typed for the formula tools becomes a native equation.
+    app_->SetTexConverter([](const std::u16string& tex) { return LatexToOmml(tex); });
+  }
+  WordConnector& Connector() override { return *this; }
+  void SaveIfChanged() override { app_->SaveIfChanged(); }
+  word::Application& GetObject() override { return *app_; }
+  word::Application& CreateObject() override { return *app_; }
+
+ private:
+  std::unique_ptr<word::docx::DocxApplication> app_;
+};
+
+}  // namespace
+
+std::unique_ptr<BackEnd> MakeBackEnd(const std::string& docPath) {
+  if (docPath.empty()) return std::make_unique<NoWord>();
+  return std::make_unique<DocxFile>(docPath);
+}
+
+}  // namespace lp

@@ -1,0 +1,139 @@
+#include "formula/frmGS.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPixmap>
+#include <QPushButton>
+
+#include "formula/gs_rules.h"
+#include "formula/insert.h"
+#include "launcher/error_log.h"
+#include "launcher/exit_lumenpad.h"
+#include "runtime/text.h"
+
+namespace lp {
+namespace {
+
+constexpr char16_t kTimedOut[] = u"公式转换超时，文档没有改动。";
+// Without a screen nobody can close the dialog: a formula that never ends
+// gives up after this long.
+constexpr std::chrono::seconds kHeadlessLimit{5};
+
+QString Q(const std::u16string& s) { return QString::fromStdU16String(s); }
+
+bool Headless() {
+  const QString platform = QGuiApplication::platformName();
+  return platform == QLatin1String("offscreen") || platform == QLatin1String("minimal");
+}
+
+}  // namespace
+
+frmGS::frmGS(Session& session) : ui::Form(session) {
+  setWindowTitle(QStringLiteral("单击下方蓝色文字可显示对应公式录入规则"));
+  txtGS = new QLineEdit(this);
+  txtGS->setObjectName(QStringLiteral("txtGS"));
+  txtGS->installEventFilter(this);
+  auto* cmdOK = new QPushButton(QStringLiteral("确定"), this);
+  cmdOK->setObjectName(QStringLiteral("cmdOK"));
+  auto* cmdExit = new QPushButton(QStringLiteral("退出"), this);
+  cmdExit->setObjectName(QStringLiteral("cmdExit"));
+  for (auto* button : {cmdOK, cmdExit}) button->setAutoDefault(false);
+  Image1 = new QLabel(this);
+  Image1->setObjectName(QStringLiteral("Image1"));
+  Image1->setMinimumSize(240, 120);
+
+  auto* grid = new QGridLayout(this);
+  grid->addWidget(txtGS, 0, 0, 1, 4);
+  for (int i = 0; i <= 8; ++i) {
+    const GsRule* rule = GsRuleAt(i);
+    lbhelp[i] = new QLabel(rule ? Q(rule->link) : Q(kGsHelpStart), this);
+    lbhelp[i]->setObjectName(QStringLiteral("lbhelp_%1").arg(i));
+    if (!rule) continue;
+    lbhelp[i]->setStyleSheet(QStringLiteral("color: blue; text-decoration: underline;"));
+    lbhelp[i]->setCursor(Qt::PointingHandCursor);
+    lbhelp[i]->installEventFilter(this);
+    grid->addWidget(lbhelp[i], 1 + (i - 1) / 4, (i - 1) % 4);
+  }
+  lbhelp[0]->setWordWrap(true);
+  grid->addWidget(lbhelp[0], 3, 0, 1, 2);
+  grid->addWidget(Image1, 3, 2, 1, 2);
+  grid->addWidget(cmdOK, 4, 2);
+  grid->addWidget(cmdExit, 4, 3);
+
+  connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
+  connect(cmdExit, &QPushButton::clicked, this, [this] { close(); });
+  lbhelp_Click(1);
+}
+
+void frmGS::lbhelp_Click(int index) {
+  const GsRule* rule = GsRuleAt(index);
+  if (!rule) return;
+  lbhelp[0]->setText(Q(GsRuleText(*rule)));
+  Image1->setPixmap(QPixmap(QStringLiteral(":/formula/img/") + Q(rule->picture)));
+}
+
+bool frmGS::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == txtGS && event->type() == QEvent::KeyPress) {
+    auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+      cmdOK_Click();
+      return true;
+    }
+    const QString typed = key->text();
+    if (typed.size() == 1) lbhelp_Click(GsRuleForKey(typed.at(0).unicode()));
+    return false;
+  }
+  if (event->type() == QEvent::MouseButtonRelease) {
+    for (int i = 1; i <= 8; ++i)
+      if (watched == lbhelp[i]) lbhelp_Click(i);
+  }
+  return ui::Form::eventFilter(watched, event);
+}
+
+// Closing the dialog while a formula converts cancels the conversion; the
+// dialog then closes as usual.
+void frmGS::closeEvent(QCloseEvent* event) {
+  if (converting_) {
+    cancelled_ = true;
+    event->ignore();
+    return;
+  }
+  ui::Form::closeEvent(event);
+}
+
+void frmGS::cmdOK_Click() {
+  if (txtGS->text().isEmpty() || converting_) return;
+  Convert();
+  close();
+}
+
+bool frmGS::Convert() {
+  const std::u16string text = StrConvNarrow(txtGS->text().toStdU16String());
+  DriverControl control;
+  control.prompt = &session_.prompt;
+  control.pump = [this] {
+    QCoreApplication::processEvents();
+    return !cancelled_;
+  };
+  if (Headless()) control.deadline = std::chrono::steady_clock::now() + kHeadlessLimit;
+  converting_ = true;
+  bool done = false;
+  try {
+    if (session_.config.blMathType)
+      InsertFormulaAsMathType(session_, text, control);
+    else
+      InsertFormulaAsField(session_, text, control);
+    done = true;
+  } catch (const FormulaAborted& e) {
+    if (e.reason() == FormulaAborted::kTimeout) session_.prompt.MsgBox(kTimedOut);
+  } catch (const std::exception& e) {
+    ReportError(session_.prompt, u"cmdOK_Click", e);
+  }
+  converting_ = false;
+  return done;
+}
+
+}  // namespace lp

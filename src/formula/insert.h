@@ -1,0 +1,37 @@
+#pragma once
+// Formulas into the document: as an EQ field whose code gets its fonts and
+// script sizes, or as TeX handed to the TeX-toggle macro. Word failures
+// inside a pass are ignored, so one failed call does not stop a formula.
+
+#include <string>
+#include <vector>
+
+#include "formula/driver.h"
+#include "formula/generators.h"
+#include "word/session.h"
+
+namespace lp {
+
+FormulaSettings SessionFormulaSettings(const Session& session);
+
+// The scripts of an EQ code, in order, each with its head and group, as the
+// find-and-shrink pass searches them; a script inside a script is not listed.
+std::vector<std::u16string> CollectScripts(const std::u16string& code);
+
+// Checks the brackets (telling the teacher when they don't match) and
+// inserts the formula as an EQ field at the selection. FormulaAborted leaves
+// the document untouched.
+void InsertFormulaAsField(Session& session, const std::u16string& text,
+                          const DriverControl& control);
+// code begins with "EQ ". The field replaces the selection; its scripts
+// shrink to 70 percent, and with EmbellishFormula its characters get fonts.
+void InsertEqField(Session& session, const std::u16string& code, const DriverControl& control = {});
+
+// The formula's LaTeX between dollar signs, typed at the selection and
+// selected, then the TeX-toggle macro.
+void InsertFormulaAsMathType(Session& session, const std::u16string& text,
+                             const DriverControl& control);
+// The same with the LaTeX already made.
+void TypeLatexAndToggle(Session& session, const std::u16string& latex);
+
+}  // namespace lp

@@ -1,0 +1,278 @@
+#include "formula/latex_to_omml.h"
+
+#include <map>
+#include <stdexcept>
+#include <vector>
+
+#include "runtime/utf8.h"
+
+namespace lp {
+namespace {
+
+using Xml = std::string;
+
+struct BadTex : std::runtime_error {
+  BadTex() : std::runtime_error("bad TeX") {}
+};
+
+const std::map<std::u16string, std::u16string>& Symbols() {
+  static const std::map<std::u16string, std::u16string> symbols = {
+      {u"alpha", u"α"},   {u"beta", u"β"},     {u"chi", u"χ"},        {u"delta", u"δ"},
+      {u"varepsilon", u"ε"}, {u"epsilon", u"ϵ"}, {u"varphi", u"φ"},   {u"vartheta", u"ϑ"},
+      {u"gamma", u"γ"},   {u"eta", u"η"},      {u"iota", u"ι"},       {u"phi", u"ϕ"},
+      {u"kappa", u"κ"},   {u"lambda", u"λ"},   {u"mu", u"μ"},         {u"nu", u"ν"},
+      {u"pi", u"π"},      {u"theta", u"θ"},    {u"rho", u"ρ"},        {u"sigma", u"σ"},
+      {u"tau", u"τ"},     {u"upsilon", u"υ"},  {u"varpi", u"ϖ"},      {u"varsigma", u"ς"},
+      {u"omega", u"ω"},   {u"xi", u"ξ"},       {u"psi", u"ψ"},        {u"zeta", u"ζ"},
+      {u"Alpha", u"Α"},   {u"Beta", u"Β"},     {u"Chi", u"Χ"},        {u"Delta", u"Δ"},
+      {u"Epsilon", u"Ε"}, {u"Gamma", u"Γ"},    {u"Eta", u"Η"},        {u"Iota", u"Ι"},
+      {u"Phi", u"Φ"},     {u"Kappa", u"Κ"},    {u"Lambda", u"Λ"},     {u"Mu", u"Μ"},
+      {u"Nu", u"Ν"},      {u"Pi", u"Π"},       {u"Theta", u"Θ"},      {u"Rho", u"Ρ"},
+      {u"Sigma", u"Σ"},   {u"Tau", u"Τ"},      {u"Upsilon", u"Υ"},    {u"Omega", u"Ω"},
+      {u"Xi", u"Ξ"},      {u"Psi", u"Ψ"},      {u"Zeta", u"Ζ"},       {u"ge", u"≥"},
+      {u"le", u"≤"},      {u"ne", u"≠"},       {u"pm", u"±"},         {u"mp", u"∓"},
+      {u"{", u"{"},       {u"}", u"}"},        {u",", u" "},          {u" ", u" "},
+  };
+  return symbols;
+}
+
+Xml Escape(const std::u16string& text) {
+  Xml out;
+  for (char c : ToUtf8(text)) {
+    if (c == '&')
+      out += "&amp;";
+    else if (c == '<')
+      out += "&lt;";
+    else if (c == '>')
+      out += "&gt;";
+    else
+      out += c;
+  }
+  return out;
+}
+
+Xml Run(const std::u16string& text, bool upright = false) {
+  Xml props = upright ? "<m:rPr><m:sty m:val=\"p\"/></m:rPr>" : "";
+  return "<m:r>" + props + "<m:t xml:space=\"preserve\">" + Escape(text) + "</m:t></m:r>";
+}
+
+Xml Join(const std::vector<Xml>& items) {
+  Xml out;
+  for (const Xml& item : items) out += item;
+  return out;
+}
+
+Xml Wrap(const char* tag, const Xml& inner) {
+  return "<m:" + Xml(tag) + ">" + inner + "</m:" + Xml(tag) + ">";
+}
+
+// Recursive descent over the TeX text; each parse routine returns the OMML
+// of what it read.
+class Parser {
+ public:
+  explicit Parser(std::u16string tex) : tex_(std::move(tex)) {}
+
+  Xml Document() {
+    Xml body = Join(Sequence());
+    if (pos_ < tex_.size()) throw BadTex();
+    return Wrap("oMath", body);
+  }
+
+ private:
+  bool AtEnd() const { return pos_ >= tex_.size(); }
+  char16_t Peek() const { return AtEnd() ? u'\0' : tex_[pos_]; }
+  void SkipBlanks() {
+    while (!AtEnd() && (Peek() == u' ' || Peek() == u'&')) ++pos_;
+  }
+  bool LooksAt(const std::u16string& word) const { return tex_.compare(pos_, word.size(), word) == 0; }
+
+  // Items up to a closing brace, a row break, \end or \right.
+  std::vector<Xml> Sequence() {
+    std::vector<Xml> items;
+    for (SkipBlanks(); !AtEnd(); SkipBlanks()) {
+      if (Peek() == u'}' || LooksAt(u"\\\\") || LooksAt(u"\\end") || LooksAt(u"\\right")) break;
+      if (Peek() == u'^' || Peek() == u'_') {
+        Xml base = items.empty() ? Xml() : items.back();
+        if (!items.empty()) items.pop_back();
+        items.push_back(Scripts(base));
+      } else {
+        items.push_back(Atom());
+      }
+    }
+    return items;
+  }
+
+  // x^a, x_b and x_b^a in either order.
+  Xml Scripts(const Xml& base) {
+    Xml sup, sub;
+    bool hasSup = false, hasSub = false;
+    for (SkipBlanks(); (Peek() == u'^' && !hasSup) || (Peek() == u'_' && !hasSub); SkipBlanks()) {
+      bool up = Peek() == u'^';
+      ++pos_;
+      (up ? sup : sub) = Argument();
+      (up ? hasSup : hasSub) = true;
+    }
+    Xml e = Wrap("e", base);
+    if (hasSup && hasSub) return Wrap("sSubSup", e + Wrap("sub", sub) + Wrap("sup", sup));
+    if (hasSup) return Wrap("sSup", e + Wrap("sup", sup));
+    return Wrap("sSub", e + Wrap("sub", sub));
+  }
+
+  // One argument: a braced group, a command with its own arguments, or one
+  // character.
+  Xml Argument() {
+    SkipBlanks();
+    if (AtEnd()) throw BadTex();
+    return Atom();
+  }
+
+  Xml Group() {
+    ++pos_;  // {
+    Xml inner = Join(Sequence());
+    if (Peek() != u'}') throw BadTex();
+    ++pos_;
+    return inner;
+  }
+
+  Xml Atom() {
+    char16_t c = Peek();
+    if (c == u'{') return Group();
+    if (c == u'}') throw BadTex();
+    if (c == u'\\') return Command();
+    ++pos_;
+    return Run(std::u16string(1, c));
+  }
+
+  std::u16string CommandName() {
+    ++pos_;  // backslash
+    size_t start = pos_;
+    while (!AtEnd() && ((Peek() >= u'a' && Peek() <= u'z') || (Peek() >= u'A' && Peek() <= u'Z')))
+      ++pos_;
+    if (pos_ == start && !AtEnd()) ++pos_;  // a one-character command such as \{
+    return tex_.substr(start, pos_ - start);
+  }
+
+  Xml Command() {
+    std::u16string name = CommandName();
+    if (name == u"frac") {
+      Xml num = Argument();
+      return Wrap("f", Wrap("num", num) + Wrap("den", Argument()));
+    }
+    if (name == u"sqrt") return Root();
+    if (name == u"overline")
+      return Wrap("bar", "<m:barPr><m:pos m:val=\"top\"/></m:barPr>" + Wrap("e", Argument()));
+    if (name == u"vec")
+      return Wrap("acc", "<m:accPr><m:chr m:val=\"\xE2\x83\x97\"/></m:accPr>" + Wrap("e", Argument()));
+    if (name == u"mathrm") return Upright();
+    if (name == u"left") return Delimited();
+    if (name == u"begin") return Aligned();
+    auto symbol = Symbols().find(name);
+    if (symbol == Symbols().end()) throw BadTex();
+    return Run(symbol->second);
+  }
+
+  Xml Root() {
+    SkipBlanks();
+    if (Peek() != u'[')
+      return Wrap("rad", "<m:radPr><m:degHide m:val=\"1\"/></m:radPr><m:deg/>" + Wrap("e", Argument()));
+    ++pos_;
+    std::vector<Xml> degree;
+    for (SkipBlanks(); Peek() != u']'; SkipBlanks()) {
+      if (AtEnd()) throw BadTex();
+      degree.push_back(Atom());
+    }
+    ++pos_;
+    return Wrap("rad", Wrap("deg", Join(degree)) + Wrap("e", Argument()));
+  }
+
+  // {\mathrm O}: the letter set upright.
+  Xml Upright() {
+    SkipBlanks();
+    std::u16string text;
+    if (Peek() != u'{') {
+      text = std::u16string(1, Peek());
+      ++pos_;
+      return Run(text, true);
+    }
+    for (++pos_; Peek() != u'}'; ++pos_) {
+      if (AtEnd()) throw BadTex();
+      if (Peek() != u' ') text += Peek();
+    }
+    ++pos_;
+    return Run(text, true);
+  }
+
+  std::u16string Delimiter() {
+    SkipBlanks();
+    if (AtEnd()) throw BadTex();
+    if (Peek() == u'\\') {
+      std::u16string name = CommandName();
+      if (name == u"{" || name == u"}") return name;
+      throw BadTex();
+    }
+    std::u16string d(1, Peek());
+    ++pos_;
+    return d == u"." ? std::u16string() : d;
+  }
+
+  Xml Delimited() {
+    std::u16string open = Delimiter();
+    Xml inner = Join(Sequence());
+    if (!LooksAt(u"\\right")) throw BadTex();
+    pos_ += 6;
+    std::u16string close = Delimiter();
+    Xml props = "<m:dPr><m:begChr m:val=\"" + Escape(open) + "\"/><m:endChr m:val=\"" +
+                Escape(close) + "\"/></m:dPr>";
+    return Wrap("d", props + Wrap("e", inner));
+  }
+
+  // \begin{align} rows \\ rows \\ \end{align}: one equation array.
+  Xml Aligned() {
+    std::u16string env = EnvironmentName();
+    std::vector<Xml> rows;
+    for (;;) {
+      Xml row = Join(Sequence());
+      if (LooksAt(u"\\\\")) {
+        pos_ += 2;
+        rows.push_back(Wrap("e", row));
+        continue;
+      }
+      if (!LooksAt(u"\\end")) throw BadTex();
+      if (!row.empty()) rows.push_back(Wrap("e", row));
+      pos_ += 4;
+      if (EnvironmentName() != env) throw BadTex();
+      return Wrap("eqArr", Join(rows));
+    }
+  }
+
+  std::u16string EnvironmentName() {
+    SkipBlanks();
+    if (Peek() != u'{') throw BadTex();
+    size_t close = tex_.find(u'}', pos_);
+    if (close == std::u16string::npos) throw BadTex();
+    std::u16string name = tex_.substr(pos_ + 1, close - pos_ - 1);
+    pos_ = close + 1;
+    return name;
+  }
+
+  std::u16string tex_;
+  size_t pos_ = 0;
+};
+
+std::u16string WithoutDollars(std::u16string tex) {
+  while (!tex.empty() && tex.front() == u'$') tex.erase(0, 1);
+  while (!tex.empty() && tex.back() == u'$') tex.pop_back();
+  return tex;
+}
+
+}  // namespace
+
+std::optional<std::string> LatexToOmml(const std::u16string& tex) {
+  try {
+    return Parser(WithoutDollars(tex)).Document();
+  } catch (const BadTex&) {
+    return std::nullopt;
+  }
+}
+
+}  // namespace lp

@@ -1,0 +1,20 @@
+#pragma once
+// The companion program lumenpadsetup, started with "browse" at every run.
+
+#include <string>
+
+#include "word/session.h"
+
+namespace lp {
+
+// The program's web address, as the messages name it.
+inline constexpr char16_t kWebAddress[] = u"https://lumenpad.example";
+
+// The companion beside the executable.
+std::string CompanionPath(const std::u16string& programFolder);
+
+// Starts the companion without waiting for it. When it is missing, shows the
+// message and returns false: the run ends there and nothing else runs.
+bool BrowseMySite(Session& session);
+
+}  // namespace lp

@@ -1,0 +1,40 @@
+#pragma once
+// The command line of lumenpad:
+//   lumenpad WORD [--doc FILE] [--select TEXT] [--set NAME=VALUE]... [--click NAME]...
+//            [--answer VALUE]... [--config PATH]
+// Everything that is not an option is the command text, joined by blanks.
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace lp {
+
+// One step of the headless driver, applied to the open dialog in order.
+struct ControlAction {
+  enum Kind { kSet, kClick } kind = kSet;
+  std::string name;   // objectName; NAME_INDEX for a member of a control array
+  std::string value;  // what --set gives
+};
+
+struct RunOptions {
+  std::string commandLine;  // UTF-8, not trimmed
+  std::string doc;
+  std::string select;
+  bool haveSelect = false;
+  std::vector<ControlAction> actions;
+  std::vector<std::string> answers;
+  std::string config;
+  // Any --set or --click: the dialog runs offscreen and its controls are driven.
+  bool Driven() const { return !actions.empty(); }
+};
+
+class UsageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// args without the program's name. Raises UsageError on a bad option.
+RunOptions ParseRunOptions(const std::vector<std::string>& args);
+
+}  // namespace lp

@@ -1,0 +1,12 @@
+#pragma once
+// --select: the teacher's selection made before the tool runs.
+
+#include "word/api.h"
+
+namespace lp {
+
+// Selects the first occurrence of text in the main story through Find;
+// false when the document doesn't hold it.
+bool SelectFirst(word::Application& app, const word::Text& text);
+
+}  // namespace lp

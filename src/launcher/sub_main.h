@@ -1,0 +1,20 @@
+#pragma once
+// The front door of a run: the companion, Word, the settings, then the tool
+// of the command word.
+
+#include <functional>
+#include <string>
+
+#include "launcher/frontend.h"
+#include "word/session.h"
+
+namespace lp {
+
+// commandLine is the whole command text as given; it is lower-cased, not
+// trimmed and not split. documentInit connects to Word and applies the
+// settings; false means Word can't be reached and the run ends. Anything that
+// escapes is shown as "submain-->line 0".
+void SubMain(Session& session, Frontend& ui, const std::u16string& commandLine,
+             const std::function<bool()>& documentInit);
+
+}  // namespace lp

@@ -1,0 +1,118 @@
+#include "pictures/jpeg_scan.h"
+
+#include <algorithm>
+
+#include "pictures/jpeg_tables.h"
+
+namespace lp {
+
+namespace {
+
+// Worst case of one block in the scan: 64 codes of at most 26 bits, each
+// byte possibly followed by a stuffed zero.
+constexpr std::size_t kMaxBlockBytes = 1024;
+
+// Column-major index of the natural position row * 8 + column.
+constexpr int ColumnMajor(int natural) {
+  return (natural % 8) * 8 + natural / 8;
+}
+
+constexpr std::array<std::uint8_t, 64> kZigZagColumnMajor = [] {
+  std::array<std::uint8_t, 64> order{};
+  for (int i = 0; i < 64; ++i) order[i] = static_cast<std::uint8_t>(ColumnMajor(kZigZag[i]));
+  return order;
+}();
+
+}  // namespace
+
+ScanWriter::ScanWriter(JpegOutput& out, const JpegFrame& frame, const JpegKernels& kernels)
+    : out_(out),
+      frame_(frame),
+      kernels_(kernels),
+      coder_(out),
+      mcuWidth_(8 * frame.lumaHorizontal),
+      mcuHeight_(8 * frame.lumaVertical),
+      mcusAcross_((frame.width + mcuWidth_ - 1) / mcuWidth_),
+      mcusDown_((frame.height + mcuHeight_ - 1) / mcuHeight_),
+      planeWidth_(mcusAcross_ * mcuWidth_) {
+  for (int c = 0; c < frame.components; ++c) {
+    planes_[c].resize(static_cast<std::size_t>(planeWidth_) * mcuHeight_);
+  }
+  for (int t = 0; t < frame.Tables(); ++t) {
+    for (int i = 0; i < 64; ++i) divisors_[t][kZigZagColumnMajor[i]] = frame.quantisation[t][i];
+  }
+}
+
+void ScanWriter::Write(const std::uint8_t* topRow, std::ptrdiff_t rowStep) {
+  for (int band = 0; band < mcusDown_; ++band) {
+    ConvertBand(topRow, rowStep, band * mcuHeight_);
+    if (mcuWidth_ > 8 || mcuHeight_ > 8) DownsampleChroma();
+    WriteBand();
+  }
+}
+
+// Partial units at the right and lower edges are filled by repeating the
+// last column and the last row of the picture: flat continuations cost the
+// fewest bits and leave no ringing at the visible edge.
+void ScanWriter::ConvertBand(const std::uint8_t* topRow, std::ptrdiff_t rowStep, int bandTop) {
+  for (int r = 0; r < mcuHeight_; ++r) {
+    const int y = std::min(bandTop + r, frame_.height - 1);
+    const std::uint8_t* pixels = topRow + y * rowStep;
+    const std::size_t at = static_cast<std::size_t>(r) * planeWidth_;
+    if (frame_.components == 1) {
+      kernels_.convertGrey(pixels, frame_.width, &planes_[0][at]);
+    } else {
+      kernels_.convertColour(pixels, frame_.width, &planes_[0][at], &planes_[1][at],
+                             &planes_[2][at]);
+    }
+    for (int c = 0; c < frame_.components; ++c) {
+      float* row = &planes_[c][at];
+      std::fill(row + frame_.width, row + planeWidth_, row[frame_.width - 1]);
+    }
+  }
+}
+
+// Each chroma sample becomes the mean of the 2 or 4 samples it covers (the
+// four corners of its cell, a sample counted twice when the cell is one
+// wide or high), written into the same plane from its start: every write
+// lands on a place already read.
+void ScanWriter::DownsampleChroma() {
+  const int h = frame_.lumaHorizontal, v = frame_.lumaVertical;
+  for (int c = 1; c < 3; ++c) {
+    float* plane = planes_[c].data();
+    for (int r = 0; r < 8; ++r) {
+      const float* top = plane + static_cast<std::size_t>(r * v) * planeWidth_;
+      const float* bottom = top + (v - 1) * planeWidth_;
+      float* out = plane + static_cast<std::size_t>(r) * planeWidth_;
+      for (int x = 0; x < planeWidth_ / h; ++x) {
+        const int left = x * h, right = left + h - 1;
+        out[x] = ((top[left] + top[right]) + (bottom[left] + bottom[right])) * 0.25f;
+      }
+    }
+  }
+}
+
+void ScanWriter::WriteBand() {
+  for (int mcu = 0; mcu < mcusAcross_; ++mcu) {
+    for (int v = 0; v < frame_.lumaVertical; ++v) {
+      for (int h = 0; h < frame_.lumaHorizontal; ++h) {
+        WriteBlock(
+            &planes_[0][static_cast<std::size_t>(8 * v) * planeWidth_ + mcu * mcuWidth_ + 8 * h],
+            0);
+      }
+    }
+    for (int c = 1; c < frame_.components; ++c) WriteBlock(&planes_[c][8 * mcu], c);
+  }
+}
+
+void ScanWriter::WriteBlock(const float* samples, int component) {
+  std::int16_t columnMajor[64], zigZag[64];
+  kernels_.transformBlock(samples, planeWidth_, divisors_[component == 0 ? 0 : 1].data(),
+                          columnMajor);
+#pragma GCC unroll 64
+  for (int i = 0; i < 64; ++i) zigZag[i] = columnMajor[kZigZagColumnMajor[i]];
+  out_.Reserve(kMaxBlockBytes);
+  coder_.WriteBlock(zigZag, component);
+}
+
+}  // namespace lp

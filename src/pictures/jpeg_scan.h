@@ -1,0 +1,44 @@
+#pragma once
+// The entropy-coded scan: the picture cut into minimum coded units, each
+// converted, transformed, quantised and Huffman coded.
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "pictures/jpeg_block_coder.h"
+#include "pictures/jpeg_frame.h"
+#include "pictures/jpeg_kernels.h"
+
+namespace lp {
+
+class ScanWriter {
+ public:
+  ScanWriter(JpegOutput& out, const JpegFrame& frame, const JpegKernels& kernels);
+
+  // `topRow` points at the picture's top row of blue, green, red pixels and
+  // `rowStep` leads from one row to the next one down (negative for the
+  // bottom-up rows of a bitmap).
+  void Write(const std::uint8_t* topRow, std::ptrdiff_t rowStep);
+
+ private:
+  void ConvertBand(const std::uint8_t* topRow, std::ptrdiff_t rowStep, int bandTop);
+  void DownsampleChroma();
+  void WriteBand();
+  void WriteBlock(const float* samples, int component);
+
+  JpegOutput& out_;
+  const JpegFrame& frame_;
+  const JpegKernels& kernels_;
+  BlockCoder coder_;
+  int mcuWidth_, mcuHeight_;  // in luminance samples
+  int mcusAcross_, mcusDown_;
+  int planeWidth_;  // samples per plane row: whole units, the edge repeated
+  // One band of units: Y, Cb, Cr planes of mcuHeight_ rows each; the chroma
+  // planes are downsampled in place into their first rows.
+  std::array<std::vector<float>, 3> planes_;
+  std::array<std::array<float, 64>, 2> divisors_;  // column-major, as the transform writes
+};
+
+}  // namespace lp

@@ -1,0 +1,43 @@
+#include "ui/qt_frontend.h"
+
+#include <QMessageBox>
+
+#include "launcher/exit_lumenpad.h"
+#include "runtime/error.h"
+#include "runtime/utf8.h"
+#include "ui/forms.h"
+
+namespace lp::ui {
+
+void QtFrontend::ShowSplash() {
+  app_.Get();
+  splash_ =
+      std::make_unique<frmMain>([this] { ExitLumenpad(session_); },
+                                [this] {
+                                  QMessageBox::about(splash_.get(), QStringLiteral("软件信息"),
+                                                     QStringLiteral("流明画板 " LP_VERSION));
+                                });
+  splash_->show();
+}
+
+void QtFrontend::SetSplashProgress(const std::u16string& text) {
+  if (splash_) splash_->SetProgress(QString::fromStdU16String(text));
+}
+
+void QtFrontend::UnloadSplash() {
+  splash_.reset();
+}
+
+void QtFrontend::ShowForm(std::u16string_view name, bool modal) {
+  app_.Get();
+  form_ = MakeForm(name, session_);
+  if (!form_)
+    throw RuntimeError(kInvalidProcedureCall, "No dialog " + ToUtf8(std::u16string(name)));
+  if (modal && !driven_) {
+    form_->exec();
+  } else {
+    form_->show();
+  }
+}
+
+}  // namespace lp::ui

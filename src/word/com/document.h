@@ -1,0 +1,99 @@
+#pragma once
+// Documents over IDispatch.
+
+#include <vector>
+
+#include "word/com/shapes.h"
+
+namespace word::com {
+
+class ComPageSetup : public PageSetup, public ComNode {
+ public:
+  using ComNode::ComNode;
+  float PageWidth() const override { return Get(L"PageWidth").ToFloat(); }
+  float PageHeight() const override { return Get(L"PageHeight").ToFloat(); }
+  float TopMargin() const override { return Get(L"TopMargin").ToFloat(); }
+  float BottomMargin() const override { return Get(L"BottomMargin").ToFloat(); }
+  float LeftMargin() const override { return Get(L"LeftMargin").ToFloat(); }
+  float RightMargin() const override { return Get(L"RightMargin").ToFloat(); }
+};
+
+class ComBookmarks : public Bookmarks, public ComNode {
+ public:
+  using ComNode::ComNode;
+  bool Exists(const word::Text& name) const override { return Get(L"Exists", {name}).ToBool(); }
+  std::unique_ptr<word::Range> Item(const word::Text& name) override {
+    return std::make_unique<ComRange>(Ref(Object().Object(L"Item", {name}).Object(L"Range")));
+  }
+};
+
+class ComTemplate : public Template, public ComNode {
+ public:
+  using ComNode::ComNode;
+  word::Text FullName() const override { return Get(L"FullName").ToText(); }
+};
+
+class ComDocument : public Document, public ComNode {
+ public:
+  explicit ComDocument(Ref ref)
+      : ComNode(ref),
+        shapes_(Member(L"Shapes")),
+        fields_(Member(L"Fields")),
+        pageSetup_(Member(L"PageSetup")),
+        bookmarks_(Member(L"Bookmarks")) {}
+  word::Text FullName() const override { return Get(L"FullName").ToText(); }
+  std::unique_ptr<word::Range> Range(long start, long end) override {
+    return std::make_unique<ComRange>(Fixed(L"Range", {start, end}));
+  }
+  std::unique_ptr<word::Range> Content() override {
+    return std::make_unique<ComRange>(Fixed(L"Content"));
+  }
+  word::Shapes& Shapes() override { return shapes_; }
+  word::Fields& Fields() override { return fields_; }
+  word::PageSetup& PageSetup() override { return pageSetup_; }
+  word::Bookmarks& Bookmarks() override { return bookmarks_; }
+  std::unique_ptr<Template> AttachedTemplate() override {
+    return std::make_unique<ComTemplate>(Fixed(L"AttachedTemplate"));
+  }
+  void SetAttachedTemplate(const word::Text& path) override { Put(L"AttachedTemplate", path); }
+  void SetEmbedTrueTypeFonts(bool on) override { Put(L"EmbedTrueTypeFonts", on); }
+  void SetSaveSubsetFonts(bool on) override { Put(L"SaveSubsetFonts", on); }
+  void SetDoNotEmbedSystemFonts(bool on) override { Put(L"DoNotEmbedSystemFonts", on); }
+  void SetSnapToGrid(bool on) override { Put(L"SnapToGrid", on); }
+  void SetSnapToShapes(bool on) override { Put(L"SnapToShapes", on); }
+  word::Text BuiltInDocumentProperty(const word::Text& name) const override {
+    return Object().Object(L"BuiltInDocumentProperties", {name}).Get(L"Value").ToText();
+  }
+  void SetBuiltInDocumentProperty(const word::Text& name, const word::Text& value) override {
+    Object().Object(L"BuiltInDocumentProperties", {name}).Put(L"Value", value);
+  }
+  void Save() override { Call(L"Save"); }
+  void SaveAs(const word::Text& path) override { Call(L"SaveAs", {path}); }
+  void Close(bool saveChanges) override { Call(L"Close", {saveChanges}); }
+
+ private:
+  ComShapes shapes_;
+  ComFields fields_;
+  ComPageSetup pageSetup_;
+  ComBookmarks bookmarks_;
+};
+
+// Documents handed out by Add and Open live as long as the application object.
+class ComDocuments : public Documents, public ComNode {
+ public:
+  using ComNode::ComNode;
+  long Count() const override { return Get(L"Count").ToLong(); }
+  Document& Add(const word::Text& templatePath) override {
+    return Keep(templatePath.empty() ? Fixed(L"Add") : Fixed(L"Add", {templatePath}));
+  }
+  Document& Open(const word::Text& path) override { return Keep(Fixed(L"Open", {path})); }
+
+ private:
+  Document& Keep(Ref document) {
+    opened_.push_back(std::make_unique<ComDocument>(std::move(document)));
+    return *opened_.back();
+  }
+  std::vector<std::unique_ptr<ComDocument>> opened_;
+};
+
+}  // namespace word::com

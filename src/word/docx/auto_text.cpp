@@ -1,0 +1,95 @@
+#include "word/docx/auto_text.h"
+
+#include <cstring>
+
+#include "word/docx/range_impl.h"
+
+namespace word::docx {
+namespace {
+
+// One piece of a stored range: a run holding part of it, or a paragraph mark.
+struct Piece {
+  std::shared_ptr<pugi::xml_document> run;  // null for a paragraph mark
+  long positions = 1;
+};
+
+const Place& PlaceOf(word::Range& range) {
+  auto* holder = dynamic_cast<const PlaceHolder*>(&range);
+  if (!holder) throw ComError(5852, "请求的对象不可用。");
+  return holder->GetPlace();
+}
+
+std::vector<Piece> Capture(const Place& place) {
+  std::vector<Piece> pieces;
+  const StoryIndex& ix = place.story->Index();
+  const long start = place.Start(), end = std::min(place.End(), ix.length);
+  if (start >= end) return pieces;
+  for (size_t i = ix.SegmentAt(start); i < ix.segments.size() && ix.segments[i].pos < end; ++i) {
+    const Segment& s = ix.segments[i];
+    if (s.kind == SegKind::ParaMark) {
+      pieces.push_back({nullptr, 1});
+      continue;
+    }
+    if (s.kind == SegKind::CellMark || s.kind == SegKind::RowEnd) continue;
+    auto doc = std::make_shared<pugi::xml_document>();
+    pugi::xml_node run = doc->append_child("w:r");
+    pugi::xml_node source = s.node.parent();
+    bool inRun = std::strcmp(source.name(), "w:r") == 0;
+    if (inRun && source.child("w:rPr")) run.append_copy(source.child("w:rPr"));
+    long from = std::max(start, s.pos), to = std::min(end, s.pos + s.length);
+    if (s.kind == SegKind::Text || s.kind == SegKind::Code) {
+      pugi::xml_node t = run.append_child(s.node.name());
+      SetNodeText(t, NodeText(s.node).substr(static_cast<size_t>(from - s.pos),
+                                             static_cast<size_t>(to - from)));
+    } else if (inRun) {
+      run.append_copy(s.node);
+    } else {
+      doc->reset();
+      doc->append_copy(s.node);
+    }
+    pieces.push_back({doc, to - from});
+  }
+  return pieces;
+}
+
+class Entry : public word::AutoTextEntry {
+ public:
+  Entry(std::map<Text, std::vector<Piece>>& entries, Text name)
+      : entries_(entries), name_(std::move(name)) {}
+  void Insert(word::Range& where, bool) override {
+    const Place& place = PlaceOf(where);
+    Story& story = *place.story;
+    long pos = place.Start();
+    story.Delete(pos, place.End());
+    for (const Piece& piece : entries_.at(name_)) {
+      if (piece.run)
+        story.InsertInline(pos, piece.run->first_child(), piece.positions);
+      else
+        story.InsertParagraph(pos);
+      pos += piece.positions;
+    }
+  }
+  void Delete() override { entries_.erase(name_); }
+
+ private:
+  std::map<Text, std::vector<Piece>>& entries_;
+  Text name_;
+};
+
+class Entries : public word::AutoTextEntries {
+ public:
+  void Add(const Text& name, word::Range& range) override { entries_[name] = Capture(PlaceOf(range)); }
+  std::unique_ptr<word::AutoTextEntry> Item(const Text& name) override {
+    if (!entries_.count(name)) throw ComError(5941, "集合中所需的成员不存在。");
+    return std::make_unique<Entry>(entries_, name);
+  }
+
+ private:
+  std::map<Text, std::vector<Piece>> entries_;
+};
+
+}  // namespace
+
+std::unique_ptr<word::AutoTextEntries> MakeAutoTextEntries() { return std::make_unique<Entries>(); }
+
+}  // namespace word::docx

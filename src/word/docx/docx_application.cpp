@@ -1,0 +1,161 @@
+#include "word/docx/docx_application.h"
+
+#include <fstream>
+#include <iterator>
+
+#include "word/docx/auto_text.h"
+#include "word/docx/docx_document.h"
+#include "word/docx/new_document.h"
+#include "word/docx/selection.h"
+
+namespace word::docx {
+namespace {
+
+const long kMacroNotFound = -2147352573;  // DISP_E_MEMBERNOTFOUND, as Word raises it
+
+class OneDocument : public word::Documents {
+ public:
+  explicit OneDocument(DocxDocument& doc) : doc_(doc) {}
+  long Count() const override { return 1; }
+  word::Document& Add(const Text&) override { return Refuse(); }
+  word::Document& Open(const Text&) override { return Refuse(); }
+
+ private:
+  word::Document& Refuse() { throw ComError(4198, "命令失败：此处只能编辑一个文档。"); }
+  DocxDocument& doc_;
+};
+
+class NoAddIns : public word::AddIns {
+ public:
+  void Add(const Text&, bool) override {}
+};
+
+class Bars : public word::CommandBars {
+ public:
+  Text ControlCaption(const Text& bar, long index) const override {
+    auto it = captions_.find({bar, index});
+    return it == captions_.end() ? Text() : it->second;
+  }
+  void SetControlCaption(const Text& bar, long index, const Text& caption) override {
+    captions_[{bar, index}] = caption;
+  }
+
+ private:
+  std::map<std::pair<Text, long>, Text> captions_;
+};
+
+class NoKeyBindings : public word::KeyBindings {
+ public:
+  void Add(long, const Text&) override {}
+};
+
+class NoOptions : public word::Options {
+ public:
+  void SetAutoCreateNewDrawings(bool) override {}
+  void SetAutoFormatMatchParentheses(bool) override {}
+};
+
+class NoAutoCorrect : public word::AutoCorrect {
+ public:
+  void SetCorrectSentenceCaps(bool) override {}
+};
+
+class Normal : public word::NormalTemplate {
+ public:
+  word::AutoTextEntries& AutoTextEntries() override { return *entries_; }
+
+ private:
+  std::unique_ptr<word::AutoTextEntries> entries_ = MakeAutoTextEntries();
+};
+
+std::string FirstBytes(const std::filesystem::path& file, size_t* size) {
+  std::ifstream in(file, std::ios::binary);
+  if (!in) throw DocxFileError("无法读取文件。");
+  std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  *size = bytes.size();
+  return bytes;
+}
+
+}  // namespace
+
+struct DocxApplication::Parts {
+  explicit Parts(DocxDocument& doc) : documents(doc) {}
+  OneDocument documents;
+  NoAddIns addIns;
+  Bars bars;
+  NoKeyBindings keys;
+  NoOptions options;
+  NoAutoCorrect autoCorrect;
+  Normal normal;
+};
+
+DocxApplication::DocxApplication(std::unique_ptr<DocxDocument> document)
+    : document_(std::move(document)), parts_(std::make_unique<Parts>(*document_)) {}
+
+DocxApplication::~DocxApplication() = default;
+
+word::Documents& DocxApplication::Documents() { return parts_->documents; }
+word::Document& DocxApplication::ActiveDocument() { return *document_; }
+word::Selection& DocxApplication::Selection() { return document_->Selection(); }
+word::AddIns& DocxApplication::AddIns() { return parts_->addIns; }
+word::CommandBars& DocxApplication::CommandBars() { return parts_->bars; }
+word::KeyBindings& DocxApplication::KeyBindings() { return parts_->keys; }
+word::Options& DocxApplication::Options() { return parts_->options; }
+word::AutoCorrect& DocxApplication::AutoCorrect() { return parts_->autoCorrect; }
+word::NormalTemplate& DocxApplication::NormalTemplate() { return parts_->normal; }
+
+void DocxApplication::Run(const Text& macroName) {
+  if (macroName == u"MTCommand_TeXToggle" && texConverter_) {
+    TexToggle();
+    return;
+  }
+  throw ComError(kMacroNotFound, "无法运行指定的宏。");
+}
+
+// Each $...$ of the selection becomes the equation the converter makes of it,
+// from the last, so that the earlier ones keep their positions.
+void DocxApplication::TexToggle() {
+  DocxSelection& selection = document_->Selection();
+  Story& story = selection.CurrentStory();
+  const long start = selection.Start();
+  const Text text = story.Index().Text(start, selection.End(), true);
+  std::vector<std::pair<size_t, size_t>> spans;
+  for (size_t open = text.find(u'$'); open != Text::npos; open = text.find(u'$', open)) {
+    size_t close = text.find(u'$', open + 1);
+    if (close == Text::npos) break;
+    spans.push_back({open, close});
+    open = close + 1;
+  }
+  for (auto it = spans.rbegin(); it != spans.rend(); ++it) {
+    auto omml = texConverter_(text.substr(it->first + 1, it->second - it->first - 1));
+    if (!omml) continue;
+    auto range = document_->Range(start + static_cast<long>(it->first),
+                                  start + static_cast<long>(it->second) + 1);
+    InsertOmml(*range, *omml);
+  }
+}
+
+bool DocxApplication::SaveIfChanged() { return document_->SaveIfChanged(); }
+
+std::unique_ptr<DocxApplication> OpenDocx(const std::filesystem::path& file) {
+  std::error_code error;
+  if (!std::filesystem::exists(file, error)) {
+    return std::make_unique<DocxApplication>(
+        std::make_unique<DocxDocument>(NewDocumentPackage(), file));
+  }
+  if (std::filesystem::is_directory(file, error)) throw DocxFileError("这是一个文件夹，不是 .docx 文档。");
+  size_t size = 0;
+  std::string bytes = FirstBytes(file, &size);
+  if (size == 0) throw DocxFileError("文件是空的，不是 .docx 文档。");
+  if (bytes.compare(0, 4, "\xD0\xCF\x11\xE0") == 0) {
+    bool encrypted = bytes.find(std::string("E\0n\0c\0r\0y\0p\0t\0e\0d\0P\0a\0c\0k\0a\0g\0e", 31)) !=
+                     std::string::npos;
+    throw DocxFileError(encrypted ? "文件已加密，无法打开。请在 Word 中取消密码后再试。"
+                                  : "这是旧版 Word（.doc）文件，请先在 Word 中另存为 .docx。");
+  }
+  if (bytes.compare(0, 2, "PK") != 0) throw DocxFileError("文件不是 .docx 文档。");
+  return std::make_unique<DocxApplication>(
+      std::make_unique<DocxDocument>(Package::FromBytes(std::move(bytes)), file));
+}
+
+}  // namespace word::docx

@@ -1,0 +1,376 @@
+#include "word/docx/docx_document.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "runtime/utf8.h"
+#include "word/docx/docx_error.h"
+#include "word/docx/selection.h"
+#include "word/docx/xml_part.h"
+
+namespace word::docx {
+namespace {
+
+const char* const kCaretBookmark = "_lpCaret";
+
+std::string RelationshipTarget(const Package& package, const std::string& part,
+                               const char* typeSuffix) {
+  auto rels = package.Read(RelsPartOf(part));
+  pugi::xml_document doc;
+  if (!rels || !ParseXml(*rels, doc)) return std::string();
+  for (pugi::xml_node r : doc.child("Relationships").children("Relationship")) {
+    std::string type = r.attribute("Type").value();
+    size_t n = std::strlen(typeSuffix);
+    if (type.size() >= n && type.compare(type.size() - n, n, typeSuffix) == 0 &&
+        std::strcmp(r.attribute("TargetMode").value(), "External") != 0)
+      return ResolveTarget(part, r.attribute("Target").value());
+  }
+  return std::string();
+}
+
+class DocxPageSetup : public word::PageSetup {
+ public:
+  explicit DocxPageSetup(const DocxDocument& doc) : doc_(doc) {}
+  float PageWidth() const override { return doc_.Geometry().width; }
+  float PageHeight() const override { return doc_.Geometry().height; }
+  float TopMargin() const override { return doc_.Geometry().top; }
+  float BottomMargin() const override { return doc_.Geometry().bottom; }
+  float LeftMargin() const override { return doc_.Geometry().left; }
+  float RightMargin() const override { return doc_.Geometry().right; }
+
+ private:
+  const DocxDocument& doc_;
+};
+
+bool SameName(const std::string& a, const std::string& b) {
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+           return std::tolower(static_cast<unsigned char>(x)) ==
+                  std::tolower(static_cast<unsigned char>(y));
+         });
+}
+
+class DocxBookmarks : public word::Bookmarks {
+ public:
+  explicit DocxBookmarks(DocxDocument& doc) : doc_(doc) {}
+  bool Exists(const Text& name) const override {
+    return name == u"\\Page" || Find(lp::ToUtf8(name)) != nullptr;
+  }
+  std::unique_ptr<word::Range> Item(const Text& name) override {
+    Story& story = doc_.MainStory();
+    if (name == u"\\Page") {
+      auto [start, end] = doc_.CaretPage();
+      return std::make_unique<DocxRange>(doc_.MakePlace(story, start, end));
+    }
+    const BookmarkSpan* b = Find(lp::ToUtf8(name));
+    if (!b) throw ComError(5941, "集合中所需的成员不存在。");
+    return std::make_unique<DocxRange>(doc_.MakePlace(story, b->start, b->end));
+  }
+
+ private:
+  const BookmarkSpan* Find(const std::string& name) const {
+    for (const BookmarkSpan& b : doc_.MainStory().Index().bookmarks)
+      if (SameName(b.name, name)) return &b;
+    return nullptr;
+  }
+  DocxDocument& doc_;
+};
+
+class DocxTemplate : public word::Template {
+ public:
+  explicit DocxTemplate(Text name) : name_(std::move(name)) {}
+  Text FullName() const override { return name_; }
+
+ private:
+  Text name_;
+};
+
+// Word's English names of the core properties and their elements.
+const char* CoreElement(const Text& name) {
+  static const std::pair<const char16_t*, const char*> kNames[] = {
+      {u"Title", "dc:title"},       {u"Subject", "dc:subject"},
+      {u"Author", "dc:creator"},    {u"Keywords", "cp:keywords"},
+      {u"Comments", "dc:description"}, {u"Last author", "cp:lastModifiedBy"},
+      {u"Category", "cp:category"}, {u"Content status", "cp:contentStatus"},
+  };
+  for (auto& [english, element] : kNames)
+    if (name == english) return element;
+  return nullptr;
+}
+
+}  // namespace
+
+std::string MainDocumentPart(const Package& package) {
+  std::string part = RelationshipTarget(package, "", "/officeDocument");
+  return part.empty() ? "word/document.xml" : part;
+}
+
+DocxDocument::DocxDocument(Package package, std::filesystem::path file)
+    : package_(std::move(package)), file_(std::move(file)) {
+  mainPart_ = MainDocumentPart(package_);
+  auto bytes = package_.Read(mainPart_);
+  if (!bytes) throw DocxFileError("文件不是 Word 文档：找不到正文部分。");
+  if (!ParseXml(*bytes, xml_)) throw DocxFileError("文件已损坏：正文无法读取。");
+  pugi::xml_node body = xml_.child("w:document").child("w:body");
+  if (!body) throw DocxFileError("文件不是 Word 文档：正文中没有内容部分。");
+  LoadStyles();
+  main_ = std::make_unique<Story>(body, *this);
+  fieldsPlace_ = MakePlace(*main_, 0, 0);
+  fields_ = std::make_unique<RangeFields>(fieldsPlace_, true);
+  RestoreCaret();
+}
+
+DocxDocument::~DocxDocument() = default;
+
+void DocxDocument::LoadStyles() {
+  std::string stylesPart = RelationshipTarget(package_, mainPart_, "/styles");
+  std::string themePart = RelationshipTarget(package_, mainPart_, "/theme");
+  // A damaged styles or theme part costs the styles, not the document.
+  auto load = [&](const std::string& part, pugi::xml_document& doc) {
+    if (part.empty()) return;
+    try {
+      if (auto bytes = package_.Read(part); !bytes || !ParseXml(*bytes, doc)) doc.reset();
+    } catch (const DocxFileError&) {
+      doc.reset();
+    }
+  };
+  load(stylesPart, stylesXml_);
+  load(themePart, themeXml_);
+  styles_.Load(stylesXml_.child("w:styles"), themeXml_.child("a:theme"));
+}
+
+void DocxDocument::RestoreCaret() {
+  const StoryIndex& ix = main_->Index();
+  long start = ix.paragraphs.empty() ? 0 : ix.segments[ix.paragraphs.back()].pos;
+  long end = start;
+  storedCaret_ = std::make_pair(start, end);  // the caret a file without one has
+  for (const BookmarkSpan& b : ix.bookmarks) {
+    if (b.name != kCaretBookmark) continue;
+    start = std::min(b.start, ix.length);
+    end = std::min(std::max(b.end, start), ix.length);
+    storedCaret_ = std::make_pair(start, end);
+    break;
+  }
+  RemoveCaretMarkers();
+  selection_ = std::make_unique<DocxSelection>(MakePlace(*main_, start, end));
+}
+
+void DocxDocument::RemoveCaretMarkers() {
+  pugi::xpath_node_set starts = xml_.select_nodes("//w:bookmarkStart[@w:name='_lpCaret']");
+  for (const pugi::xpath_node& x : starts) {
+    std::string id = x.node().attribute("w:id").value();
+    for (const pugi::xpath_node& e : xml_.select_nodes("//w:bookmarkEnd"))
+      if (id == e.node().attribute("w:id").value()) e.node().parent().remove_child(e.node());
+    x.node().parent().remove_child(x.node());
+  }
+  if (!starts.empty()) main_->Invalidate();
+}
+
+void DocxDocument::StoreCaret() {
+  if (&selection_->CurrentStory() != main_.get()) return;
+  auto caret = std::make_pair(selection_->Start(), selection_->End());
+  if (!changed_ && storedCaret_ == caret) return;
+  long id = 0;
+  for (const pugi::xpath_node& x : xml_.select_nodes("//w:bookmarkStart"))
+    id = std::max(id, x.node().attribute("w:id").as_int() + 1L);
+  const std::string idText = std::to_string(id);
+  main_->InsertMarker(caret.second, "w:bookmarkEnd").append_attribute("w:id") = idText.c_str();
+  pugi::xml_node start = main_->InsertMarker(caret.first, "w:bookmarkStart");
+  start.append_attribute("w:id") = idText.c_str();
+  start.append_attribute("w:name") = kCaretBookmark;
+  storedCaret_ = caret;
+  changed_ = true;
+}
+
+bool DocxDocument::SaveIfChanged() {
+  StoreCaret();
+  if (!changed_ && !coreChanged_) return false;
+  SaveTo(file_);
+  RemoveCaretMarkers();
+  return true;
+}
+
+void DocxDocument::SaveTo(const std::filesystem::path& file) {
+  if (changed_ || !package_.Written(mainPart_)) package_.Write(mainPart_, SerializeXml(xml_));
+  if (coreChanged_) package_.Write("docProps/core.xml", SerializeXml(coreXml_));
+  package_.SaveTo(file);
+  changed_ = coreChanged_ = false;
+}
+
+Text DocxDocument::FullName() const { return lp::FromUtf8(reinterpret_cast<const char*>(file_.u8string().c_str())); }
+
+Place DocxDocument::MakePlace(Story& story, long start, long end) {
+  long length = story.Length();
+  start = std::clamp(start, 0L, length);
+  end = std::clamp(end, start, length);
+  return Place{this, &story, story.Track(start, end)};
+}
+
+std::unique_ptr<word::Range> DocxDocument::Range(long start, long end) {
+  return std::make_unique<DocxRange>(MakePlace(*main_, std::min(start, end), std::max(start, end)));
+}
+
+std::unique_ptr<word::Range> DocxDocument::Content() {
+  return std::make_unique<DocxRange>(MakePlace(*main_, 0, main_->Length()));
+}
+
+word::Shapes& DocxDocument::Shapes() {
+  if (!shapes_) shapes_ = MakeShapes(*this);
+  return *shapes_;
+}
+
+word::Fields& DocxDocument::Fields() { return *fields_; }
+
+word::PageSetup& DocxDocument::PageSetup() {
+  if (!pageSetup_) pageSetup_ = std::make_unique<DocxPageSetup>(*this);
+  return *pageSetup_;
+}
+
+word::Bookmarks& DocxDocument::Bookmarks() {
+  if (!bookmarks_) bookmarks_ = std::make_unique<DocxBookmarks>(*this);
+  return *bookmarks_;
+}
+
+PageGeometry DocxDocument::Geometry() const {
+  pugi::xml_node body = main_->Container();
+  pugi::xml_node sectPr = body.child("w:sectPr");
+  if (!sectPr)
+    for (pugi::xml_node p = body.last_child(); p && !sectPr; p = p.previous_sibling())
+      sectPr = p.child("w:pPr").child("w:sectPr");
+  return ReadPageGeometry(sectPr);
+}
+
+std::pair<long, long> DocxDocument::CaretPage() {
+  long pos = &selection_->CurrentStory() == main_.get() ? selection_->Start() : 0;
+  CaretEstimate caret = EstimateCaret(main_->Index(), styles_, Geometry(), pos);
+  return {caret.pageStart, std::max(caret.pageStart, caret.pageEnd)};
+}
+
+std::unique_ptr<Template> DocxDocument::AttachedTemplate() {
+  if (!attachedTemplate_.empty()) return std::make_unique<DocxTemplate>(attachedTemplate_);
+  std::string settings = RelationshipTarget(package_, mainPart_, "/settings");
+  std::string target;
+  if (auto rels = package_.Read(RelsPartOf(settings.empty() ? "word/settings.xml" : settings))) {
+    pugi::xml_document doc;
+    if (ParseXml(*rels, doc))
+      for (pugi::xml_node r : doc.child("Relationships").children("Relationship"))
+        if (std::string(r.attribute("Type").value()).find("attachedTemplate") != std::string::npos)
+          target = r.attribute("Target").value();
+  }
+  return std::make_unique<DocxTemplate>(lp::FromUtf8(target.empty() ? "Normal.dotm" : target));
+}
+
+// The template and the font-embedding options live with Word, not with the
+// worksheet: they are kept for this run only.
+void DocxDocument::SetAttachedTemplate(const Text& path) { attachedTemplate_ = path; }
+void DocxDocument::SetEmbedTrueTypeFonts(bool) {}
+void DocxDocument::SetSaveSubsetFonts(bool) {}
+void DocxDocument::SetDoNotEmbedSystemFonts(bool) {}
+void DocxDocument::SetSnapToGrid(bool) {}
+void DocxDocument::SetSnapToShapes(bool) {}
+
+pugi::xml_node DocxDocument::CoreProperties() const {
+  if (!coreLoaded_) {
+    coreLoaded_ = true;
+    auto bytes = package_.Read("docProps/core.xml");
+    if (!bytes || !ParseXml(*bytes, coreXml_)) coreXml_.reset();
+  }
+  return coreXml_.child("cp:coreProperties");
+}
+
+Text DocxDocument::BuiltInDocumentProperty(const Text& name) const {
+  const char* element = CoreElement(name);
+  if (!element) throw ComError(5, "无效的过程调用或参数");
+  return lp::FromUtf8(CoreProperties().child(element).text().get());
+}
+
+void DocxDocument::SetBuiltInDocumentProperty(const Text& name, const Text& value) {
+  const char* element = CoreElement(name);
+  if (!element) throw ComError(5, "无效的过程调用或参数");
+  pugi::xml_node root = CoreProperties();
+  if (!root) return;  // a package without core properties keeps none
+  pugi::xml_node e = root.child(element);
+  if (!e) e = root.append_child(element);
+  e.text().set(lp::ToUtf8(value).c_str());
+  coreChanged_ = true;
+}
+
+void DocxDocument::Save() {
+  StoreCaret();
+  SaveTo(file_);
+  RemoveCaretMarkers();
+}
+
+void DocxDocument::SaveAs(const Text& path) {
+  file_ = std::filesystem::path(lp::ToUtf8(path));
+  Save();
+}
+
+void DocxDocument::Close(bool saveChanges) {
+  if (saveChanges) Save();
+}
+
+pugi::xml_node DocxDocument::CaretParagraph() {
+  const StoryIndex& ix = main_->Index();
+  if (ix.length == 0) return {};
+  long pos = &selection_->CurrentStory() == main_.get() ? selection_->Start() : 0;
+  size_t mark = ix.ParagraphOf(std::min(pos, ix.length - 1));
+  return ix.segments[mark].kind == SegKind::RowEnd ? pugi::xml_node() : ix.segments[mark].node;
+}
+
+unsigned DocxDocument::NextDrawingId() {
+  if (nextDrawingId_ == 0) {
+    nextDrawingId_ = 1;
+    for (const pugi::xpath_node& x : xml_.select_nodes("//wp:docPr"))
+      nextDrawingId_ = std::max(nextDrawingId_, x.node().attribute("id").as_uint() + 1);
+  }
+  return nextDrawingId_++;
+}
+
+void DocxDocument::MarkChanged() {
+  changed_ = true;
+  main_->Invalidate();
+  for (auto& [node, story] : boxes_) story->Invalidate();
+}
+
+std::unique_ptr<word::Range> DocxDocument::StoryRange(pugi::xml_node txbxContent) {
+  auto& story = boxes_[txbxContent.internal_object()];
+  if (!story) story = std::make_unique<Story>(txbxContent, *this);
+  story->Invalidate();
+  long length = story->Length();
+  return std::make_unique<DocxRange>(MakePlace(*story, 0, std::max(0L, length - 1)));
+}
+
+void DocxDocument::SelectShapes(const std::vector<pugi::xml_node>& anchors, bool replace) {
+  if (replace) selectedShapes_.clear();
+  for (pugi::xml_node a : anchors)
+    if (std::find(selectedShapes_.begin(), selectedShapes_.end(), a) == selectedShapes_.end())
+      selectedShapes_.push_back(a);
+}
+
+bool DocxDocument::ShowsCode(pugi::xml_node beginFldChar) const {
+  return showCodes_.count(beginFldChar.internal_object()) > 0;
+}
+
+void DocxDocument::SetShowCode(pugi::xml_node beginFldChar, bool show) {
+  if (show)
+    showCodes_.insert(beginFldChar.internal_object());
+  else
+    showCodes_.erase(beginFldChar.internal_object());
+  main_->Invalidate();
+  for (auto& [node, story] : boxes_) story->Invalidate();
+}
+
+CharFormat DocxDocument::FormatAt(Story& story, long pos) {
+  const StoryIndex& ix = story.Index();
+  if (ix.length == 0) return styles_.Effective({}, {});
+  const Segment& s = ix.segments[ix.SegmentAt(std::clamp(pos, 0L, ix.length - 1))];
+  pugi::xml_node paragraph = s.node;
+  while (paragraph && std::strcmp(paragraph.name(), "w:p") != 0) paragraph = paragraph.parent();
+  bool mark = s.kind == SegKind::ParaMark || s.kind == SegKind::CellMark;
+  pugi::xml_node run = mark ? paragraph.child("w:pPr")
+                       : std::strcmp(s.node.parent().name(), "w:r") == 0 ? s.node.parent()
+                                                                          : s.node;
+  return styles_.Effective(run, paragraph);
+}
+
+}  // namespace word::docx

@@ -1,0 +1,128 @@
+#pragma once
+// A .docx file as Word's Document: the package, document.xml, its stories,
+// the selection and the fields' display state.
+
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <unordered_set>
+#include <vector>
+
+#include <pugixml.hpp>
+
+#include "word/api.h"
+#include "word/docx/docx_host.h"
+#include "word/docx/layout_estimate.h"
+#include "word/docx/package.h"
+#include "word/docx/story.h"
+#include "word/docx/styles.h"
+
+namespace word::docx {
+
+class DocxSelection;
+class RangeFields;
+
+// What a range refers to: a story and a live span in it.
+struct Place {
+  class DocxDocument* doc = nullptr;
+  Story* story = nullptr;
+  std::shared_ptr<Span> span;
+  long Start() const { return span->start; }
+  long End() const { return span->end; }
+};
+
+class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
+ public:
+  // Throws DocxFileError for a package that holds no readable document.
+  DocxDocument(Package package, std::filesystem::path file);
+  ~DocxDocument() override;
+
+  // word::Document
+  Text FullName() const override;
+  std::unique_ptr<word::Range> Range(long start, long end) override;
+  std::unique_ptr<word::Range> Content() override;
+  word::Shapes& Shapes() override;
+  word::Fields& Fields() override;
+  word::PageSetup& PageSetup() override;
+  word::Bookmarks& Bookmarks() override;
+  std::unique_ptr<Template> AttachedTemplate() override;
+  void SetAttachedTemplate(const Text& path) override;
+  void SetEmbedTrueTypeFonts(bool on) override;
+  void SetSaveSubsetFonts(bool on) override;
+  void SetDoNotEmbedSystemFonts(bool on) override;
+  void SetSnapToGrid(bool on) override;
+  void SetSnapToShapes(bool on) override;
+  Text BuiltInDocumentProperty(const Text& name) const override;
+  void SetBuiltInDocumentProperty(const Text& name, const Text& value) override;
+  void Save() override;
+  void SaveAs(const Text& path) override;
+  void Close(bool saveChanges) override;
+
+  // DocxHost
+  pugi::xml_document& DocumentXml() override { return xml_; }
+  pugi::xml_node CaretParagraph() override;
+  unsigned NextDrawingId() override;
+  void MarkChanged() override;
+  std::unique_ptr<word::Range> StoryRange(pugi::xml_node txbxContent) override;
+  void SelectShapes(const std::vector<pugi::xml_node>& anchors, bool replace) override;
+  std::vector<pugi::xml_node> SelectedShapes() override { return selectedShapes_; }
+
+  // StoryOwner
+  bool ShowsCode(pugi::xml_node beginFldChar) const override;
+  void StoryChanged() override { changed_ = true; }
+
+  DocxSelection& Selection() { return *selection_; }
+  Story& MainStory() { return *main_; }
+  Place MakePlace(Story& story, long start, long end);
+  const StyleSheet& Styles() const { return styles_; }
+  bool Changed() const { return changed_; }
+  void SetShowCode(pugi::xml_node beginFldChar, bool show);
+  // The effective format of the character at pos (or the paragraph mark).
+  CharFormat FormatAt(Story& story, long pos);
+  void ClearShapeSelection() { selectedShapes_.clear(); }
+  PageGeometry Geometry() const;
+  // Positions of the main story shared by the caret's page (the predefined Page bookmark).
+  std::pair<long, long> CaretPage();
+
+  // Writes the caret into the hidden bookmark, then saves if anything changed.
+  bool SaveIfChanged();
+  void SaveTo(const std::filesystem::path& file);
+
+ private:
+  void LoadStyles();
+  void RestoreCaret();
+  void StoreCaret();
+  void RemoveCaretMarkers();
+  pugi::xml_node CoreProperties() const;
+
+  Package package_;
+  std::filesystem::path file_;
+  std::string mainPart_;
+  pugi::xml_document xml_;
+  pugi::xml_document stylesXml_, themeXml_;
+  mutable pugi::xml_document coreXml_;
+  mutable bool coreLoaded_ = false;
+  bool coreChanged_ = false;
+  StyleSheet styles_;
+  std::unique_ptr<Story> main_;
+  std::map<const void*, std::unique_ptr<Story>> boxes_;
+  std::unordered_set<const void*> showCodes_;
+  std::unique_ptr<DocxSelection> selection_;
+  Place fieldsPlace_;
+  std::unique_ptr<RangeFields> fields_;
+  std::unique_ptr<word::PageSetup> pageSetup_;
+  std::unique_ptr<word::Bookmarks> bookmarks_;
+  std::unique_ptr<word::Shapes> shapes_;
+  std::vector<pugi::xml_node> selectedShapes_;
+  std::optional<std::pair<long, long>> storedCaret_;
+  Text attachedTemplate_;
+  unsigned nextDrawingId_ = 0;
+  bool changed_ = false;
+};
+
+// The main part named by the package's relationships (word/document.xml).
+std::string MainDocumentPart(const Package& package);
+
+}  // namespace word::docx

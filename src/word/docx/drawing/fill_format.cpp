@@ -1,0 +1,137 @@
+#include <cstring>
+#include <string>
+
+#include "word/docx/drawing/color_xml.h"
+#include "word/docx/drawing/dml_tables.h"
+#include "word/docx/drawing/formats.h"
+#include "word/docx/drawing/xml_order.h"
+
+namespace word::docx::drawing {
+
+namespace {
+
+constexpr long kWhite = 0xFFFFFF;
+
+bool Is(pugi::xml_node node, const char* name) {
+  return std::strcmp(node.name(), name) == 0;
+}
+
+// The element that holds the fore colour of a fill: the solid colour, or the
+// foreground of a pattern.
+pugi::xml_node ForeHolder(pugi::xml_node fill) {
+  return Is(fill, "a:pattFill") ? fill.child("a:fgClr") : fill;
+}
+
+pugi::xml_node NewSolid(pugi::xml_node spPr, long bgr, float transparency) {
+  pugi::xml_node solid = ReplaceChoice(spPr, kFillChoices, "a:solidFill", kShapePropertiesOrder);
+  WriteColor(solid, bgr);
+  WriteTransparency(solid, transparency);
+  return solid;
+}
+
+}  // namespace
+
+DocxFillFormat::DocxFillFormat(const ShapeSet& shapes)
+    : shapes_(shapes),
+      foreColor_([this] { return Fore(); }, [this](long bgr) { SetFore(bgr); }),
+      backColor_([this] { return Back(); }, [this](long bgr) { SetBack(bgr); }) {}
+
+pugi::xml_node DocxFillFormat::FirstFill() const {
+  const auto all = shapes_.ShapeProperties();
+  return all.empty() ? pugi::xml_node() : FirstChildOf(all.front(), kFillChoices);
+}
+
+void DocxFillFormat::EditFills(
+    const std::function<void(pugi::xml_node spPr, pugi::xml_node fill)>& edit) {
+  for (pugi::xml_node spPr : shapes_.ShapeProperties()) {
+    edit(spPr, FirstChildOf(spPr, kFillChoices));
+  }
+  shapes_.Changed();
+}
+
+bool DocxFillFormat::Visible() const {
+  const pugi::xml_node fill = FirstFill();
+  return fill && !Is(fill, "a:noFill");
+}
+
+void DocxFillFormat::SetVisible(bool visible) {
+  EditFills([visible](pugi::xml_node spPr, pugi::xml_node fill) {
+    if (!visible) {
+      ReplaceChoice(spPr, kFillChoices, "a:noFill", kShapePropertiesOrder);
+    } else if (!fill || Is(fill, "a:noFill")) {
+      NewSolid(spPr, kWhite, 0);
+    }
+  });
+}
+
+long DocxFillFormat::Fore() const {
+  return ReadColor(ForeHolder(FirstFill()));
+}
+
+// A colour given to a hidden fill shows it, solid.
+void DocxFillFormat::SetFore(long bgr) {
+  EditFills([bgr](pugi::xml_node spPr, pugi::xml_node fill) {
+    if (Is(fill, "a:solidFill") || Is(fill, "a:pattFill")) {
+      WriteColor(ForeHolder(fill), bgr);
+    } else {
+      NewSolid(spPr, bgr, 0);
+    }
+  });
+}
+
+long DocxFillFormat::Back() const {
+  const pugi::xml_node back = FirstFill().child("a:bgClr");
+  return back ? ReadColor(back) : kWhite;
+}
+
+// Only a pattern has a second colour to keep.
+void DocxFillFormat::SetBack(long bgr) {
+  EditFills([bgr](pugi::xml_node, pugi::xml_node fill) {
+    if (Is(fill, "a:pattFill")) WriteColor(fill.child("a:bgClr"), bgr);
+  });
+}
+
+void DocxFillFormat::Solid() {
+  EditFills([](pugi::xml_node spPr, pugi::xml_node fill) {
+    if (Is(fill, "a:pattFill")) {
+      const pugi::xml_node fore = fill.child("a:fgClr");
+      NewSolid(spPr, ReadColor(fore), ReadTransparency(fore));
+    }
+  });
+}
+
+void DocxFillFormat::Patterned(long pattern) {
+  const std::string name(PatternName(pattern));
+  if (name.empty()) throw ComError(5, "Invalid procedure call or argument");
+  EditFills([&name](pugi::xml_node spPr, pugi::xml_node fill) {
+    const bool shown = fill && !Is(fill, "a:noFill");
+    const long fore = shown ? ReadColor(ForeHolder(fill)) : 0;
+    const float transparency = shown ? ReadTransparency(ForeHolder(fill)) : 0;
+    const pugi::xml_node oldBack = fill.child("a:bgClr");
+    const long back = oldBack ? ReadColor(oldBack) : kWhite;
+    pugi::xml_node patterned =
+        ReplaceChoice(spPr, kFillChoices, "a:pattFill", kShapePropertiesOrder);
+    patterned.append_attribute("prst") = name.c_str();
+    for (const auto& [holder, bgr] : {std::pair{"a:fgClr", fore}, std::pair{"a:bgClr", back}}) {
+      pugi::xml_node color = patterned.append_child(holder);
+      WriteColor(color, bgr);
+      WriteTransparency(color, transparency);
+    }
+  });
+}
+
+float DocxFillFormat::Transparency() const {
+  return ReadTransparency(ForeHolder(FirstFill()));
+}
+
+void DocxFillFormat::SetTransparency(float fraction) {
+  EditFills([fraction](pugi::xml_node, pugi::xml_node fill) {
+    if (Is(fill, "a:solidFill")) WriteTransparency(fill, fraction);
+    if (Is(fill, "a:pattFill")) {
+      WriteTransparency(fill.child("a:fgClr"), fraction);
+      WriteTransparency(fill.child("a:bgClr"), fraction);
+    }
+  });
+}
+
+}  // namespace word::docx::drawing

@@ -1,0 +1,145 @@
+#include "word/docx/layout_estimate.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace word::docx {
+namespace {
+
+float Twips(pugi::xml_node n, const char* attr, float fallback) {
+  pugi::xml_attribute a = n.attribute(attr);
+  return a ? static_cast<float>(a.as_double()) / 20.0f : fallback;
+}
+
+// Width of UTF-8 text in ems: multi-byte characters are full width.
+float Ems(const char* s, long from, long to) {
+  float ems = 0;
+  long index = 0;
+  for (const unsigned char* p = reinterpret_cast<const unsigned char*>(s); *p; ++p) {
+    if ((*p & 0xC0) == 0x80) continue;
+    if (index >= from && index < to) ems += *p < 0x80 ? 0.5f : 1.0f;
+    index += (*p & 0xF8) == 0xF0 ? 2 : 1;
+  }
+  return ems;
+}
+
+struct Paragraph {
+  long start = 0, end = 0;  // positions, end = the mark
+  float lineHeight = 15.6f, fontSize = 10.5f, before = 0, after = 0, indent = 0;
+  bool pageBreakBefore = false;
+};
+
+pugi::xml_node ParagraphNode(const Segment& s) {
+  pugi::xml_node n = s.node;
+  while (n && std::strcmp(n.name(), "w:p") != 0) n = n.parent();
+  return n;
+}
+
+std::vector<Paragraph> Paragraphs(const StoryIndex& ix, const StyleSheet& styles,
+                                  const PageGeometry& page) {
+  std::vector<Paragraph> out;
+  long start = 0;
+  for (size_t markIndex : ix.paragraphs) {
+    const Segment& mark = ix.segments[markIndex];
+    Paragraph p;
+    p.start = start;
+    p.end = mark.pos;
+    pugi::xml_node node = mark.node;
+    pugi::xml_node firstRun = node.child("w:r");
+    CharFormat f = styles.Effective(firstRun ? firstRun : node.child("w:pPr"), node);
+    p.fontSize = f.halfPoints.value_or(21) / 2.0f;
+    p.lineHeight = std::max(p.fontSize * 1.3f, page.linePitch);
+    pugi::xml_node pPr = node.child("w:pPr");
+    p.before = Twips(pPr.child("w:spacing"), "w:before", 0);
+    p.after = Twips(pPr.child("w:spacing"), "w:after", 0);
+    p.indent = Twips(pPr.child("w:ind"), "w:left", 0);
+    p.pageBreakBefore = static_cast<bool>(pPr.child("w:pageBreakBefore"));
+    out.push_back(p);
+    start = mark.pos + 1;
+  }
+  return out;
+}
+
+// Width in points of the shown characters in [from, to), and whether a page
+// break stands among them.
+float TextWidth(const StoryIndex& ix, long from, long to, float size, bool* pageBreak) {
+  float width = 0;
+  if (from >= to) return 0;
+  for (size_t i = ix.SegmentAt(from); i < ix.segments.size() && ix.segments[i].pos < to; ++i) {
+    const Segment& s = ix.segments[i];
+    if (s.hidden) continue;
+    if (s.kind == SegKind::Text || s.kind == SegKind::Code)
+      width += Ems(s.node.text().get(), std::max(from, s.pos) - s.pos,
+                   std::min(to, s.pos + s.length) - s.pos) * size;
+    else if (s.kind == SegKind::Break && s.mark == u'\f' && pageBreak)
+      *pageBreak = true;
+    else
+      width += size;
+  }
+  return width;
+}
+
+}  // namespace
+
+PageGeometry ReadPageGeometry(pugi::xml_node sectPr) {
+  PageGeometry g;
+  pugi::xml_node size = sectPr.child("w:pgSz");
+  pugi::xml_node margins = sectPr.child("w:pgMar");
+  g.width = Twips(size, "w:w", g.width);
+  g.height = Twips(size, "w:h", g.height);
+  g.top = std::fabs(Twips(margins, "w:top", g.top));
+  g.bottom = std::fabs(Twips(margins, "w:bottom", g.bottom));
+  g.left = Twips(margins, "w:left", g.left);
+  g.right = Twips(margins, "w:right", g.right);
+  pugi::xml_node grid = sectPr.child("w:docGrid");
+  g.linePitch = grid && std::strcmp(grid.attribute("w:type").value(), "default") != 0
+                    ? Twips(grid, "w:linePitch", 0)
+                    : 0;
+  return g;
+}
+
+CaretEstimate EstimateCaret(const StoryIndex& ix, const StyleSheet& styles,
+                            const PageGeometry& page, long pos) {
+  CaretEstimate caret;
+  caret.x = page.left;
+  caret.y = page.top;
+  const float textWidth = std::max(72.0f, page.width - page.left - page.right);
+  const float textHeight = std::max(72.0f, page.height - page.top - page.bottom);
+  float y = 0;
+  int pageNo = 1;
+  long pageStart = 0;
+  bool found = false;
+  for (const Paragraph& p : Paragraphs(ix, styles, page)) {
+    bool pageBreak = false;
+    float width = TextWidth(ix, p.start, p.end, p.fontSize, &pageBreak);
+    float lines = std::max(1.0f, std::ceil(width / (textWidth - p.indent)));
+    float height = p.before + lines * p.lineHeight + p.after;
+    if ((y > 0 && y + height > textHeight) || (p.pageBreakBefore && y > 0)) {
+      if (found) break;
+      ++pageNo;
+      y = 0;
+      pageStart = p.start;
+    }
+    if (!found && pos <= p.end) {
+      float before = TextWidth(ix, p.start, pos, p.fontSize, nullptr);
+      float line = std::floor(before / (textWidth - p.indent));
+      caret.x = page.left + p.indent + (before - line * (textWidth - p.indent));
+      caret.y = page.top + y + p.before + std::min(line, lines - 1) * p.lineHeight;
+      caret.page = pageNo;
+      caret.pageStart = pageStart;
+      found = true;
+    }
+    y += height;
+    if (found) caret.pageEnd = p.end + 1;
+    if (pageBreak) {
+      if (found) break;
+      ++pageNo;
+      y = 0;
+      pageStart = p.end + 1;
+    }
+  }
+  return caret;
+}
+
+}  // namespace word::docx

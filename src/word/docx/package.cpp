@@ -1,0 +1,184 @@
+#include "word/docx/package.h"
+
+#include <zip.h>
+
+#include <cctype>
+#include <cstdio>
+#include <fstream>
+#include <memory>
+#include <random>
+
+#include "word/docx/docx_error.h"
+
+namespace word::docx {
+namespace {
+
+constexpr zip_uint64_t kMaxPartSize = 512u << 20;  // refuse zip bombs
+
+const char* const kDamaged = "文件已损坏，无法作为 .docx 文档打开。";
+
+struct ZipCloser {
+  void operator()(zip_t* z) const { zip_discard(z); }
+};
+using ZipPtr = std::unique_ptr<zip_t, ZipCloser>;
+
+ZipPtr OpenBuffer(const std::string& bytes) {
+  zip_error_t error;
+  zip_error_init(&error);
+  zip_source_t* source = zip_source_buffer_create(bytes.data(), bytes.size(), 0, &error);
+  if (!source) throw DocxFileError(kDamaged);
+  zip_t* z = zip_open_from_source(source, ZIP_RDONLY, &error);
+  zip_error_fini(&error);
+  if (!z) {
+    zip_source_free(source);
+    throw DocxFileError(kDamaged);
+  }
+  return ZipPtr(z);
+}
+
+std::string ReadEntry(zip_t* z, zip_int64_t index) {
+  zip_stat_t st;
+  if (zip_stat_index(z, index, 0, &st) != 0 || !(st.valid & ZIP_STAT_SIZE) ||
+      st.size > kMaxPartSize)
+    throw DocxFileError(kDamaged);
+  zip_file_t* f = zip_fopen_index(z, index, 0);
+  if (!f) throw DocxFileError(kDamaged);
+  std::string data(st.size, '\0');
+  zip_int64_t got = data.empty() ? 0 : zip_fread(f, data.data(), data.size());
+  zip_fclose(f);
+  if (got != static_cast<zip_int64_t>(data.size())) throw DocxFileError(kDamaged);
+  return data;
+}
+
+std::filesystem::path TemporaryBeside(const std::filesystem::path& file) {
+  std::random_device rd;
+  auto name = "." + file.filename().string() + ".tmp" + std::to_string(rd() % 1000000);
+  return file.parent_path() / name;
+}
+
+void Check(bool ok, zip_t* z) {
+  if (ok) return;
+  std::string why = z ? zip_strerror(z) : "zip";
+  throw DocxFileError("无法保存文档：" + why);
+}
+
+void PutPart(zip_t* z, const std::string& name, const std::string& bytes) {
+  zip_source_t* src = zip_source_buffer(z, bytes.data(), bytes.size(), 0);
+  Check(src != nullptr, z);
+  zip_int64_t index = zip_name_locate(z, name.c_str(), ZIP_FL_NOCASE);
+  if (index >= 0) {
+    if (zip_file_replace(z, index, src, 0) != 0) {
+      zip_source_free(src);
+      Check(false, z);
+    }
+  } else {
+    index = zip_file_add(z, name.c_str(), src, ZIP_FL_ENC_UTF_8);
+    if (index < 0) zip_source_free(src);
+    Check(index >= 0, z);
+  }
+  zip_set_file_compression(z, index, ZIP_CM_DEFLATE, 0);
+}
+
+}  // namespace
+
+Package Package::FromBytes(std::string bytes) {
+  Package p;
+  p.original_ = std::move(bytes);
+  ZipPtr z = OpenBuffer(p.original_);
+  zip_int64_t n = zip_get_num_entries(z.get(), 0);
+  for (zip_int64_t i = 0; i < n; ++i) {
+    const char* name = zip_get_name(z.get(), i, 0);
+    if (name) p.names_.push_back(name);
+  }
+  return p;
+}
+
+Package Package::Empty() { return Package(); }
+
+bool Package::Has(const std::string& part) const {
+  if (written_.count(part)) return true;
+  auto lower = [](std::string s) {
+    for (auto& c : s) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return s;
+  };
+  const std::string wanted = lower(part);
+  for (const auto& n : names_)
+    if (lower(n) == wanted) return true;
+  return false;
+}
+
+std::optional<std::string> Package::Read(const std::string& part) const {
+  if (auto it = written_.find(part); it != written_.end()) return it->second;
+  if (original_.empty() || !Has(part)) return std::nullopt;
+  ZipPtr z = OpenBuffer(original_);
+  zip_int64_t index = zip_name_locate(z.get(), part.c_str(), ZIP_FL_NOCASE);
+  if (index < 0) return std::nullopt;
+  return ReadEntry(z.get(), index);
+}
+
+void Package::Write(const std::string& part, std::string bytes) {
+  written_[part] = std::move(bytes);
+}
+
+void Package::SaveTo(const std::filesystem::path& file) const {
+  const std::filesystem::path temp = TemporaryBeside(file);
+  if (!original_.empty()) {
+    std::ofstream out(temp, std::ios::binary);
+    out.write(original_.data(), static_cast<std::streamsize>(original_.size()));
+    if (!out.flush()) throw DocxFileError("无法保存文档：无法写入临时文件。");
+  }
+  int error = 0;
+  zip_t* z = zip_open(temp.string().c_str(), original_.empty() ? ZIP_CREATE | ZIP_TRUNCATE : 0,
+                      &error);
+  if (!z) {
+    std::filesystem::remove(temp);
+    throw DocxFileError("无法保存文档：无法创建临时文件。");
+  }
+  try {
+    for (const auto& [name, bytes] : written_) PutPart(z, name, bytes);
+  } catch (...) {
+    zip_discard(z);
+    std::filesystem::remove(temp);
+    throw;
+  }
+  if (zip_close(z) != 0) {
+    std::string why = zip_strerror(z);
+    zip_discard(z);
+    std::filesystem::remove(temp);
+    throw DocxFileError("无法保存文档：" + why);
+  }
+  std::filesystem::rename(temp, file);
+}
+
+std::string RelsPartOf(const std::string& part) {
+  auto slash = part.rfind('/');
+  std::string dir = slash == std::string::npos ? "" : part.substr(0, slash + 1);
+  std::string base = slash == std::string::npos ? part : part.substr(slash + 1);
+  return dir + "_rels/" + base + ".rels";
+}
+
+std::string ResolveTarget(const std::string& sourcePart, const std::string& target) {
+  if (!target.empty() && target[0] == '/') return target.substr(1);
+  auto slash = sourcePart.rfind('/');
+  std::string path = slash == std::string::npos ? "" : sourcePart.substr(0, slash + 1);
+  path += target;
+  // Fold "dir/../" pairs.
+  std::vector<std::string> parts;
+  size_t start = 0;
+  while (start <= path.size()) {
+    size_t end = path.find('/', start);
+    if (end == std::string::npos) end = path.size();
+    std::string piece = path.substr(start, end - start);
+    if (piece == "..") {
+      if (!parts.empty()) parts.pop_back();
+    } else if (!piece.empty() && piece != ".") {
+      parts.push_back(piece);
+    }
+    start = end + 1;
+  }
+  std::string out;
+  for (const auto& p : parts) out += (out.empty() ? "" : "/") + p;
+  return out;
+}
+
+}  // namespace word::docx

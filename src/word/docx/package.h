@@ -1,0 +1,41 @@
+#pragma once
+// The zip package of a .docx. Parts are read from the original bytes; a part
+// that was written anew replaces its entry on save, and every other entry is
+// copied as it was, compressed bytes and all.
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace word::docx {
+
+class Package {
+ public:
+  // Throws DocxFileError for anything that is not a readable zip.
+  static Package FromBytes(std::string bytes);
+  static Package Empty();
+
+  bool Has(const std::string& part) const;
+  // The part's bytes; nullopt if absent. Throws DocxFileError if unreadable.
+  std::optional<std::string> Read(const std::string& part) const;
+  void Write(const std::string& part, std::string bytes);
+  bool Written(const std::string& part) const { return written_.count(part) > 0; }
+
+  // Writes the package to a temporary file beside `file` and renames it over.
+  void SaveTo(const std::filesystem::path& file) const;
+
+ private:
+  std::string original_;  // the file's bytes; empty for a new package
+  std::vector<std::string> names_;
+  std::map<std::string, std::string> written_;
+};
+
+// The relationships part that belongs to a part: word/document.xml ->
+// word/_rels/document.xml.rels.
+std::string RelsPartOf(const std::string& part);
+// Resolves a relationship target against the folder of the source part.
+std::string ResolveTarget(const std::string& sourcePart, const std::string& target);
+
+}  // namespace word::docx

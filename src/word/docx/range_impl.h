@@ -1,0 +1,103 @@
+#pragma once
+// Range over a story; the selection derives from the same implementation.
+
+#include <algorithm>
+#include <memory>
+
+#include "word/docx/range_parts.h"
+
+namespace word::docx {
+
+// Lets a range handed back through the API be traced to its story.
+class PlaceHolder {
+ public:
+  virtual ~PlaceHolder() = default;
+  virtual const Place& GetPlace() const = 0;
+};
+
+template <class Base>
+class RangeImpl : public Base, public PlaceHolder {
+ public:
+  const Place& GetPlace() const override { return place_; }
+  explicit RangeImpl(Place place, bool isSelection = false)
+      : place_(std::move(place)), isSelection_(isSelection) {}
+
+  long Start() const override { return place_.Start(); }
+  long End() const override { return place_.End(); }
+  void SetStart(long position) override {
+    place_.span->start = Clamp(position);
+    place_.span->end = std::max(place_.span->end, place_.span->start);
+  }
+  void SetEnd(long position) override {
+    place_.span->end = Clamp(position);
+    place_.span->start = std::min(place_.span->start, place_.span->end);
+  }
+  word::Text Text() const override {
+    return place_.story->Index().Text(Start(), End(), false);
+  }
+  void SetText(const word::Text& text) override {
+    long start = Start();
+    place_.story->Delete(start, End());
+    TypingFormat format{place_.story->FormatSourceAt(start), {}};
+    place_.story->InsertText(start, text, format);
+    place_.span->start = start;
+    place_.span->end = start + static_cast<long>(text.size());
+  }
+  word::Font& Font() override {
+    if (!font_) font_ = std::make_unique<RangeFont>(place_, nullptr);
+    return *font_;
+  }
+  word::ParagraphFormat& ParagraphFormat() override {
+    if (!paragraphFormat_) paragraphFormat_ = std::make_unique<RangeParagraphFormat>(place_);
+    return *paragraphFormat_;
+  }
+  word::Fields& Fields() override {
+    if (!fields_) fields_ = std::make_unique<RangeFields>(place_, false);
+    return *fields_;
+  }
+  word::Characters& Characters() override {
+    if (!characters_) characters_ = std::make_unique<RangeCharacters>(place_);
+    return *characters_;
+  }
+  word::Find& Find() override {
+    if (!find_) find_ = std::make_unique<RangeFind>(place_, isSelection_);
+    return *find_;
+  }
+  void InsertAfter(const word::Text& text) override {
+    long end = End();
+    TypingFormat format{place_.story->FormatSourceAt(end), {}};
+    long start = Start();
+    place_.story->InsertText(end, text, format);
+    place_.span->start = start;
+    place_.span->end = end + static_cast<long>(text.size());
+  }
+  void Collapse(WdCollapseDirection direction) override {
+    if (direction == wdCollapseStart)
+      place_.span->end = place_.span->start;
+    else
+      place_.span->start = place_.span->end;
+  }
+  void Delete() override { place_.story->Delete(Start(), End()); }
+  void Select() override;
+  std::unique_ptr<word::Range> Duplicate() const override;
+
+ protected:
+  long Clamp(long position) const {
+    return std::clamp(position, 0L, place_.story->Length());
+  }
+
+  Place place_;
+  bool isSelection_;
+  std::unique_ptr<RangeFont> font_;
+  std::unique_ptr<RangeParagraphFormat> paragraphFormat_;
+  std::unique_ptr<RangeFields> fields_;
+  std::unique_ptr<RangeCharacters> characters_;
+  std::unique_ptr<RangeFind> find_;
+};
+
+class DocxRange : public RangeImpl<word::Range> {
+ public:
+  using RangeImpl<word::Range>::RangeImpl;
+};
+
+}  // namespace word::docx

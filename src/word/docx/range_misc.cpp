@@ -1,0 +1,82 @@
+#include <cstring>
+
+#include "word/docx/range_impl.h"
+
+namespace word::docx {
+namespace {
+
+const char* const kAfterJc[] = {"w:textDirection", "w:textAlignment", "w:textboxTightWrap",
+                                "w:outlineLvl",    "w:divId",         "w:cnfStyle",
+                                "w:rPr",           "w:sectPr",        "w:pPrChange"};
+
+pugi::xml_node JcOf(pugi::xml_node p) {
+  pugi::xml_node pPr = p.child("w:pPr");
+  if (!pPr) pPr = p.prepend_child("w:pPr");
+  if (pugi::xml_node jc = pPr.child("w:jc")) return jc;
+  for (pugi::xml_node c = pPr.first_child(); c; c = c.next_sibling())
+    for (const char* name : kAfterJc)
+      if (!std::strcmp(c.name(), name)) return pPr.insert_child_before("w:jc", c);
+  return pPr.append_child("w:jc");
+}
+
+}  // namespace
+
+std::vector<pugi::xml_node> RangeParagraphFormat::Paragraphs() const {
+  const StoryIndex& ix = place_.story->Index();
+  std::vector<pugi::xml_node> out;
+  if (ix.length == 0) return out;
+  size_t first = ix.ParagraphOf(std::min(place_.Start(), ix.length - 1));
+  size_t last = ix.ParagraphOf(std::min(std::max(place_.Start(), place_.End() - 1), ix.length - 1));
+  for (size_t i = first; i <= last; ++i) {
+    SegKind k = ix.segments[i].kind;
+    if (k == SegKind::ParaMark || k == SegKind::CellMark) out.push_back(ix.segments[i].node);
+  }
+  return out;
+}
+
+WdParagraphAlignment RangeParagraphFormat::Alignment() const {
+  auto paragraphs = Paragraphs();
+  if (paragraphs.empty()) return wdAlignParagraphLeft;
+  std::string v = paragraphs.front().child("w:pPr").child("w:jc").attribute("w:val").value();
+  if (v == "center") return wdAlignParagraphCenter;
+  if (v == "right" || v == "end") return wdAlignParagraphRight;
+  return wdAlignParagraphLeft;
+}
+
+void RangeParagraphFormat::SetAlignment(WdParagraphAlignment alignment) {
+  const char* value = alignment == wdAlignParagraphCenter  ? "center"
+                      : alignment == wdAlignParagraphRight ? "right"
+                                                           : "left";
+  for (pugi::xml_node p : Paragraphs()) {
+    pugi::xml_node jc = JcOf(p);
+    jc.remove_attribute("w:val");
+    jc.append_attribute("w:val") = value;
+  }
+  place_.doc->MarkChanged();
+}
+
+std::vector<long> RangeCharacters::Positions() const {
+  const StoryIndex& ix = place_.story->Index();
+  std::vector<long> out;
+  const long start = place_.Start(), end = std::min(place_.End(), ix.length);
+  if (start >= end) return out;
+  for (size_t i = ix.SegmentAt(start); i < ix.segments.size() && ix.segments[i].pos < end; ++i) {
+    const Segment& s = ix.segments[i];
+    if (s.hidden) continue;
+    for (long p = std::max(start, s.pos); p < std::min(end, s.pos + s.length); ++p)
+      out.push_back(p);
+  }
+  return out;
+}
+
+long RangeCharacters::Count() const { return static_cast<long>(Positions().size()); }
+
+std::unique_ptr<word::Range> RangeCharacters::Item(long index) {
+  auto positions = Positions();
+  if (index < 1 || index > static_cast<long>(positions.size()))
+    throw ComError(5941, "集合中所需的成员不存在。");
+  long p = positions[static_cast<size_t>(index - 1)];
+  return std::make_unique<DocxRange>(place_.doc->MakePlace(*place_.story, p, p + 1));
+}
+
+}  // namespace word::docx

@@ -1,0 +1,388 @@
+#include "word/docx/story.h"
+
+#include <algorithm>
+#include <cstring>
+#include <sstream>
+
+#include "word/types.h"
+
+namespace word::docx {
+namespace {
+
+bool Is(pugi::xml_node n, const char* name) { return std::strcmp(n.name(), name) == 0; }
+
+bool IsMark(SegKind k) {
+  return k == SegKind::ParaMark || k == SegKind::CellMark || k == SegKind::RowEnd;
+}
+
+bool HasContentBefore(pugi::xml_node e) {
+  for (pugi::xml_node n = e.previous_sibling(); n; n = n.previous_sibling())
+    if (n.type() == pugi::node_element && !Is(n, "w:rPr")) return true;
+  return false;
+}
+
+bool HasContentAfter(pugi::xml_node e) {
+  for (pugi::xml_node n = e.next_sibling(); n; n = n.next_sibling())
+    if (n.type() == pugi::node_element) return true;
+  return false;
+}
+
+// Moves `from` and everything after it into a new run placed after `run`.
+pugi::xml_node SplitRunAt(pugi::xml_node run, pugi::xml_node from) {
+  pugi::xml_node right = run.parent().insert_child_after("w:r", run);
+  if (pugi::xml_node rPr = run.child("w:rPr")) right.append_copy(rPr);
+  for (pugi::xml_node n = from; n;) {
+    pugi::xml_node next = n.next_sibling();
+    right.append_move(n);
+    n = next;
+  }
+  return right;
+}
+
+// Splits a w:t or w:instrText in two at offset k; returns the second half.
+pugi::xml_node SplitTextElement(pugi::xml_node e, size_t k) {
+  std::u16string text = NodeText(e);
+  pugi::xml_node tail = e.parent().insert_child_after(e.name(), e);
+  SetNodeText(e, text.substr(0, k));
+  SetNodeText(tail, text.substr(k));
+  return tail;
+}
+
+void RemoveElement(pugi::xml_node e) {
+  pugi::xml_node run = e.parent();
+  run.remove_child(e);
+  if (Is(run, "w:r")) {
+    for (pugi::xml_node n : run.children())
+      if (n.type() == pugi::node_element && !Is(n, "w:rPr")) return;
+    run.parent().remove_child(run);
+  }
+}
+
+std::string Key(pugi::xml_node rPr) {
+  if (!rPr || !rPr.first_child()) return std::string();
+  std::ostringstream out;
+  for (pugi::xml_node c : rPr.children()) c.print(out, "", pugi::format_raw);
+  return out.str();
+}
+
+// Splits the containers between a run-level node and its paragraph, so that
+// the paragraph's child returned ends where the node ends.
+pugi::xml_node LiftSplit(pugi::xml_node node, pugi::xml_node paragraph) {
+  while (node && node.parent() != paragraph) {
+    pugi::xml_node parent = node.parent();
+    if (Is(parent, "w:sdtContent")) {
+      node = parent.parent();
+      continue;
+    }
+    if (HasContentAfter(node)) {
+      pugi::xml_node right = parent.parent().insert_child_after(parent.name(), parent);
+      for (pugi::xml_attribute a : parent.attributes())
+        right.append_attribute(a.name()) = a.value();
+      for (pugi::xml_node n = node.next_sibling(); n;) {
+        pugi::xml_node next = n.next_sibling();
+        right.append_move(n);
+        n = next;
+      }
+    }
+    node = parent;
+  }
+  return node;
+}
+
+}  // namespace
+
+const StoryIndex& Story::Index() {
+  if (stale_) {
+    index_ = BuildStoryIndex(container_, owner_);
+    stale_ = false;
+  }
+  return index_;
+}
+
+std::shared_ptr<Span> Story::Track(long start, long end) {
+  spans_.erase(std::remove_if(spans_.begin(), spans_.end(),
+                              [](const std::weak_ptr<Span>& w) { return w.expired(); }),
+               spans_.end());
+  auto span = std::make_shared<Span>(Span{start, end});
+  spans_.push_back(span);
+  return span;
+}
+
+void Story::Changed() {
+  stale_ = true;
+  owner_.StoryChanged();
+}
+
+void Story::AdjustInsert(long pos, long count) {
+  for (auto& w : spans_) {
+    auto s = w.lock();
+    if (!s) continue;
+    if (s->start >= pos) s->start += count;
+    if (s->end > pos) s->end += count;
+    s->end = std::max(s->end, s->start);
+  }
+}
+
+void Story::AdjustDelete(long start, long end) {
+  auto move = [&](long x) { return x <= start ? x : x >= end ? x - (end - start) : start; };
+  for (auto& w : spans_) {
+    if (auto s = w.lock()) {
+      s->start = move(s->start);
+      s->end = move(s->end);
+    }
+  }
+}
+
+pugi::xml_node Story::SplitBefore(long pos) {
+  const StoryIndex& ix = Index();
+  if (pos < 0 || pos >= ix.length) return {};
+  const Segment s = ix.segments[ix.SegmentAt(pos)];
+  if (IsMark(s.kind)) return {};
+  pugi::xml_node e = s.node;
+  if ((s.kind == SegKind::Text || s.kind == SegKind::Code) && pos > s.pos) {
+    e = SplitTextElement(e, static_cast<size_t>(pos - s.pos));
+    Changed();
+  }
+  if (!Is(e.parent(), "w:r")) return e;
+  if (!HasContentBefore(e)) return e.parent();
+  Changed();
+  return SplitRunAt(e.parent(), e);
+}
+
+pugi::xml_node Story::SplitAfter(long pos) {
+  const StoryIndex& ix = Index();
+  if (pos < 0 || pos >= ix.length) return {};
+  const Segment s = ix.segments[ix.SegmentAt(pos)];
+  if (IsMark(s.kind)) return {};
+  pugi::xml_node e = s.node;
+  if ((s.kind == SegKind::Text || s.kind == SegKind::Code) && pos + 1 < s.pos + s.length) {
+    SplitTextElement(e, static_cast<size_t>(pos + 1 - s.pos));
+    Changed();
+  }
+  if (!Is(e.parent(), "w:r")) return e;
+  if (HasContentAfter(e)) {
+    SplitRunAt(e.parent(), e.next_sibling());
+    Changed();
+  }
+  return e.parent();
+}
+
+pugi::xml_node Story::InsertInline(long pos, const pugi::xml_node& prototype, long positions) {
+  const StoryIndex& ix = Index();
+  pos = std::clamp(pos, 0L, std::max(0L, ix.length - 1));
+  pugi::xml_node placed;
+  if (ix.length == 0) {
+    pugi::xml_node p = container_.last_child() && Is(container_.last_child(), "w:sectPr")
+                           ? container_.insert_child_before("w:p", container_.last_child())
+                           : container_.append_child("w:p");
+    placed = p.append_copy(prototype);
+  } else if (pos > 0 && !IsMark(ix.segments[ix.SegmentAt(pos - 1)].kind)) {
+    pugi::xml_node after = SplitAfter(pos - 1);
+    placed = after.parent().insert_copy_after(prototype, after);
+  } else {
+    const Segment& s = ix.segments[ix.SegmentAt(pos)];
+    if (s.kind == SegKind::RowEnd) throw ComError(4605, "此命令无效。");
+    if (IsMark(s.kind)) {
+      pugi::xml_node paragraph = s.node;
+      placed = paragraph.append_copy(prototype);
+    } else {
+      pugi::xml_node before = SplitBefore(pos);
+      placed = before.parent().insert_copy_before(prototype, before);
+    }
+  }
+  Changed();
+  if (positions > 0) AdjustInsert(pos, positions);
+  return placed;
+}
+
+pugi::xml_node Story::InsertMarker(long pos, const char* name) {
+  pugi::xml_document scratch;
+  scratch.append_child(name);
+  return InsertInline(pos, scratch.first_child(), 0);
+}
+
+pugi::xml_node Story::FormatSourceAt(long pos) {
+  const StoryIndex& ix = Index();
+  if (ix.length == 0) return {};
+  pos = std::clamp(pos, 0L, ix.length - 1);
+  auto runProps = [](const Segment& s) {
+    pugi::xml_node run = Is(s.node.parent(), "w:r") ? s.node.parent() : pugi::xml_node();
+    return run ? run.child("w:rPr") : pugi::xml_node();
+  };
+  if (pos > 0 && !IsMark(ix.segments[ix.SegmentAt(pos - 1)].kind))
+    return runProps(ix.segments[ix.SegmentAt(pos - 1)]);
+  const Segment& here = ix.segments[ix.SegmentAt(pos)];
+  if (!IsMark(here.kind)) return runProps(here);
+  return here.kind == SegKind::RowEnd ? pugi::xml_node()
+                                      : here.node.child("w:pPr").child("w:rPr");
+}
+
+void Story::InsertText(long pos, const std::u16string& text, const TypingFormat& format,
+                       bool forceCode) {
+  pugi::xml_document scratch;
+  pugi::xml_node rPr = scratch.append_child("w:rPr");
+  if (format.sourceRPr)
+    for (pugi::xml_node c : format.sourceRPr.children()) {
+      static const char* const kSkip[] = {"w:rPrChange", "w:ins", "w:del", "w:moveFrom",
+                                          "w:moveTo"};
+      if (std::none_of(std::begin(kSkip), std::end(kSkip),
+                       [&](const char* k) { return Is(c, k); }))
+        rPr.append_copy(c);
+    }
+  WriteRunProperties(rPr, format.overlay);
+  const std::string key = Key(rPr);
+
+  size_t i = 0;
+  while (i <= text.size()) {
+    size_t stop = text.find_first_of(u"\r\n", i);
+    if (stop == std::u16string::npos) stop = text.size();
+    std::u16string piece = text.substr(i, stop - i);
+    if (!piece.empty()) {
+      const StoryIndex& ix = Index();
+      pos = std::clamp(pos, 0L, std::max(0L, ix.length - 1));
+      bool code = forceCode || (pos > 0 && ix.segments[ix.SegmentAt(pos - 1)].codeAfter);
+      const char* element = code ? "w:instrText" : "w:t";
+      const Segment* prev = pos > 0 ? &ix.segments[ix.SegmentAt(pos - 1)] : nullptr;
+      bool plain = piece.find_first_of(u"\t\v") == std::u16string::npos;
+      if (plain && prev && Is(prev->node, element) && Is(prev->node.parent(), "w:r") &&
+          Key(prev->node.parent().child("w:rPr")) == key) {
+        std::u16string t = NodeText(prev->node);
+        t.insert(static_cast<size_t>(pos - prev->pos), piece);
+        SetNodeText(prev->node, t);
+        Changed();
+      } else {
+        pugi::xml_document proto;
+        pugi::xml_node run = proto.append_child("w:r");
+        if (rPr.first_child()) run.append_copy(rPr);
+        size_t k = 0;
+        while (k < piece.size()) {
+          size_t special = piece.find_first_of(u"\t\v", k);
+          if (special == std::u16string::npos) special = piece.size();
+          if (special > k) SetNodeText(run.append_child(element), piece.substr(k, special - k));
+          if (special < piece.size()) run.append_child(piece[special] == u'\t' ? "w:tab" : "w:br");
+          k = special + 1;
+        }
+        InsertInline(pos, run, 0);
+      }
+      AdjustInsert(pos, static_cast<long>(piece.size()));
+      pos += static_cast<long>(piece.size());
+    }
+    if (stop >= text.size()) break;
+    InsertParagraph(pos++);
+    i = stop + 1;
+    if (text[stop] == u'\r' && i < text.size() && text[i] == u'\n') ++i;
+  }
+}
+
+void Story::InsertParagraph(long pos) {
+  const StoryIndex& ix = Index();
+  if (ix.length == 0) {
+    InsertText(0, u" ", {});
+    Delete(0, 1);
+  }
+  pos = std::clamp(pos, 0L, std::max(0L, Index().length - 1));
+  const Segment mark = Index().segments[Index().ParagraphOf(pos)];
+  if (mark.kind == SegKind::RowEnd) throw ComError(4605, "此命令无效。");
+  pugi::xml_node p = mark.node;
+  bool atStart = pos == 0 || IsMark(Index().segments[Index().SegmentAt(pos - 1)].kind);
+  pugi::xml_node last = atStart ? pugi::xml_node() : LiftSplit(SplitAfter(pos - 1), p);
+  pugi::xml_node left = p.parent().insert_child_before("w:p", p);
+  if (pugi::xml_node pPr = p.child("w:pPr")) {
+    pugi::xml_node copy = left.append_copy(pPr);
+    copy.remove_child("w:sectPr");
+  }
+  if (last) {
+    for (pugi::xml_node n = p.first_child(); n;) {
+      pugi::xml_node next = n.next_sibling();
+      if (!Is(n, "w:pPr")) left.append_move(n);
+      if (n == last) break;
+      n = next;
+    }
+  }
+  Changed();
+  AdjustInsert(pos, 1);
+}
+
+void Story::DeleteSegmentPart(const Segment& s, long from, long to) {
+  if (s.kind == SegKind::Text || s.kind == SegKind::Code) {
+    std::u16string text = NodeText(s.node);
+    text.erase(static_cast<size_t>(from - s.pos), static_cast<size_t>(to - from));
+    if (text.empty())
+      RemoveElement(s.node);
+    else
+      SetNodeText(s.node, text);
+  } else if (Is(s.node.parent(), "w:r")) {
+    RemoveElement(s.node);
+  } else {
+    s.node.parent().remove_child(s.node);
+  }
+}
+
+bool Story::MergeParagraphAt(const Segment& mark) {
+  pugi::xml_node p = mark.node;
+  pugi::xml_node next = p.next_sibling();
+  while (next && next.type() != pugi::node_element) next = next.next_sibling();
+  if (!next || !Is(next, "w:p") || p.child("w:pPr").child("w:sectPr")) return false;
+  pugi::xml_node anchor = next.child("w:pPr");
+  for (pugi::xml_node n = p.first_child(); n;) {
+    pugi::xml_node following = n.next_sibling();
+    if (!Is(n, "w:pPr")) anchor = anchor ? next.insert_move_after(n, anchor) : next.prepend_move(n);
+    n = following;
+  }
+  p.parent().remove_child(p);
+  return true;
+}
+
+void Story::Delete(long start, long end) {
+  const StoryIndex& ix = Index();
+  start = std::max(0L, start);
+  end = std::min(end, ix.length);
+  if (start >= end) return;
+  std::vector<Segment> doomed;
+  for (size_t i = ix.SegmentAt(start); i < ix.segments.size() && ix.segments[i].pos < end; ++i)
+    doomed.push_back(ix.segments[i]);
+  for (auto it = doomed.rbegin(); it != doomed.rend(); ++it) {
+    const Segment& s = *it;
+    long from = std::max(start, s.pos), to = std::min(end, s.pos + s.length);
+    if (s.kind == SegKind::CellMark || s.kind == SegKind::RowEnd) continue;
+    if (s.kind == SegKind::ParaMark) {
+      if (!MergeParagraphAt(s)) continue;
+    } else {
+      DeleteSegmentPart(s, from, to);
+    }
+    AdjustDelete(from, to);
+  }
+  Changed();
+}
+
+void Story::ApplyFormat(long start, long end, const CharFormat& format) {
+  start = std::max(0L, start);
+  end = std::min(end, Length());
+  if (start >= end || format.Empty()) return;
+  SplitBefore(start);
+  SplitAfter(end - 1);
+  const StoryIndex& ix = Index();
+  pugi::xml_node lastRun;
+  for (size_t i = ix.SegmentAt(start); i < ix.segments.size() && ix.segments[i].pos < end; ++i) {
+    pugi::xml_node run = ix.segments[i].node.parent();
+    if (IsMark(ix.segments[i].kind) || !Is(run, "w:r") || run == lastRun) continue;
+    WriteRunProperties(RunPropertiesOf(run), format);
+    lastRun = run;
+  }
+  Changed();
+}
+
+void Story::TextToCode(long start, long end) {
+  if (start >= end) return;
+  SplitBefore(start);
+  SplitAfter(end - 1);
+  const StoryIndex& ix = Index();
+  for (size_t i = ix.SegmentAt(start); i < ix.segments.size() && ix.segments[i].pos < end; ++i)
+    if (ix.segments[i].kind == SegKind::Text) {
+      pugi::xml_node text = ix.segments[i].node;
+      text.set_name("w:instrText");
+    }
+  Changed();
+}
+
+}  // namespace word::docx

@@ -1,0 +1,81 @@
+#pragma once
+// One story of the document and the edits made to it. Positions are those of
+// StoryIndex; every edit moves the live spans (ranges, the selection) the way
+// Word moves its ranges.
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <pugixml.hpp>
+
+#include "word/docx/char_format.h"
+#include "word/docx/story_index.h"
+
+namespace word::docx {
+
+struct Span {
+  long start = 0;
+  long end = 0;
+};
+
+class StoryOwner : public FieldDisplay {
+ public:
+  virtual void StoryChanged() = 0;
+};
+
+// The format typed text takes: a run's properties to copy, then the
+// properties set on the selection since it last moved.
+struct TypingFormat {
+  pugi::xml_node sourceRPr;  // may be empty
+  CharFormat overlay;
+};
+
+class Story {
+ public:
+  Story(pugi::xml_node container, StoryOwner& owner) : container_(container), owner_(owner) {}
+
+  pugi::xml_node Container() const { return container_; }
+  const StoryIndex& Index();
+  long Length() { return Index().length; }
+  // The index is stale after XML changes made elsewhere (the shape layer).
+  void Invalidate() { stale_ = true; }
+
+  std::shared_ptr<Span> Track(long start, long end);
+
+  // The properties text typed at pos takes before any selection overlay.
+  pugi::xml_node FormatSourceAt(long pos);
+  void InsertText(long pos, const std::u16string& text, const TypingFormat& format,
+                  bool forceCode = false);
+  void InsertParagraph(long pos);
+  void Delete(long start, long end);
+  void ApplyFormat(long start, long end, const CharFormat& format);
+  // Inserts a copy of a run-level node (a field mark run, an equation) at pos;
+  // `positions` is how many positions it holds.
+  pugi::xml_node InsertInline(long pos, const pugi::xml_node& prototype, long positions);
+  // Turns the text of [start, end) into field code text (w:instrText).
+  void TextToCode(long start, long end);
+  // Inserts a zero-width element (bookmark start or end) at pos.
+  pugi::xml_node InsertMarker(long pos, const char* name);
+
+  // The run-level node that starts with the position, after splitting.
+  pugi::xml_node SplitBefore(long pos);
+  // The run-level node that ends with the position, after splitting.
+  pugi::xml_node SplitAfter(long pos);
+
+ private:
+  void Changed();
+  void AdjustInsert(long pos, long count);
+  void AdjustDelete(long start, long end);
+  void DeleteSegmentPart(const Segment& s, long from, long to);
+  bool MergeParagraphAt(const Segment& mark);
+  pugi::xml_node NewRunAt(long pos, pugi::xml_node rPr, bool code);
+
+  pugi::xml_node container_;
+  StoryOwner& owner_;
+  StoryIndex index_;
+  bool stale_ = true;
+  std::vector<std::weak_ptr<Span>> spans_;
+};
+
+}  // namespace word::docx

@@ -1,0 +1,90 @@
+#pragma once
+// Documents of the recording back end. The first document of a run writes
+// its collections bare ("Shapes.AddLine(...)") and itself as ActiveDocument;
+// a later one is Documents(n).
+
+#include "word/fake/shapes.h"
+
+namespace word::fake {
+
+// Page A4 in points with Word's default margins, unless scripted.
+class FakePageSetup : public PageSetup, public Node {
+ public:
+  using Node::Node;
+  float PageWidth() const override { return Get("PageWidth", 595.3); }
+  float PageHeight() const override { return Get("PageHeight", 841.9); }
+  float TopMargin() const override { return Get("TopMargin", 72); }
+  float BottomMargin() const override { return Get("BottomMargin", 72); }
+  float LeftMargin() const override { return Get("LeftMargin", 90); }
+  float RightMargin() const override { return Get("RightMargin", 90); }
+
+ private:
+  float Get(const std::string& member, double fallback) const {
+    return static_cast<float>(Number(member, fallback));
+  }
+};
+
+// A bookmark exists when scripted as Bookmarks.Exists("name") = 1; "\Page" always does.
+class FakeBookmarks : public Bookmarks, public Node {
+ public:
+  using Node::Node;
+  bool Exists(const word::Text& name) const override;
+  std::unique_ptr<word::Range> Item(const word::Text& name) override;
+};
+
+class FakeTemplate : public Template {
+ public:
+  explicit FakeTemplate(word::Text fullName) : fullName_(std::move(fullName)) {}
+  word::Text FullName() const override { return fullName_; }
+
+ private:
+  word::Text fullName_;
+};
+
+class FakeDocument : public Document, public Node {
+ public:
+  FakeDocument(State& state, DocumentState& document);
+  word::Text FullName() const override { return doc_.fullName; }
+  std::unique_ptr<word::Range> Range(long start, long end) override;
+  std::unique_ptr<word::Range> Content() override;
+  word::Shapes& Shapes() override { return shapes_; }
+  word::Fields& Fields() override { return fields_; }
+  word::PageSetup& PageSetup() override { return pageSetup_; }
+  word::Bookmarks& Bookmarks() override { return bookmarks_; }
+  std::unique_ptr<Template> AttachedTemplate() override;
+  void SetAttachedTemplate(const word::Text& path) override;
+  void SetEmbedTrueTypeFonts(bool on) override { Put("EmbedTrueTypeFonts", on); }
+  void SetSaveSubsetFonts(bool on) override { Put("SaveSubsetFonts", on); }
+  void SetDoNotEmbedSystemFonts(bool on) override { Put("DoNotEmbedSystemFonts", on); }
+  void SetSnapToGrid(bool on) override { Put("SnapToGrid", on); }
+  void SetSnapToShapes(bool on) override { Put("SnapToShapes", on); }
+  word::Text BuiltInDocumentProperty(const word::Text& name) const override;
+  void SetBuiltInDocumentProperty(const word::Text& name, const word::Text& value) override;
+  void Save() override { Call("Save"); }
+  void SaveAs(const word::Text& path) override;
+  void Close(bool saveChanges) override;
+
+ private:
+  std::string prefix_;  // before the names of the document's collections
+  DocumentState& doc_;
+  FakeShapes shapes_;
+  FakeFields fields_;
+  FakePageSetup pageSetup_;
+  FakeBookmarks bookmarks_;
+};
+
+class FakeDocuments : public Documents, public Node {
+ public:
+  explicit FakeDocuments(State& state) : Node(state, "Documents") {}
+  long Count() const override { return static_cast<long>(st_.documents.size()); }
+  Document& Add(const word::Text& templatePath) override;
+  Document& Open(const word::Text& path) override;
+  // A document the test opens, unrecorded.
+  Document& Make(const word::Text& fullName, const word::Text& attachedTemplate);
+
+ private:
+  std::vector<std::unique_ptr<FakeDocument>> objects_;
+  long made_ = 0;
+};
+
+}  // namespace word::fake

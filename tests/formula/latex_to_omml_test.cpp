@@ -1,0 +1,84 @@
+// TeX of the LaTeX generator into Office Math: each construct, and the whole
+// corpus against the math schema of the document format.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <set>
+
+#include "formula/generators.h"
+#include "formula/latex_to_omml.h"
+#include "runtime/utf8.h"
+
+namespace lp {
+namespace {
+
+std::vector<std::string> Lines(const char* path) {
+  std::ifstream in(path);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(in, line);)
+    if (!line.empty() && line[0] != '#') lines.push_back(line);
+  return lines;
+}
+
+TEST(LatexToOmml, Constructs) {
+  struct Row {
+    const char* name;
+    const char16_t* tex;
+    const char* expected;
+  } rows[] = {
+      {"Fraction", u"$\\frac{a+b}{c+d}$",
+       "<m:f><m:num><m:r><m:t xml:space=\"preserve\">a</m:t></m:r>"},
+      {"SquareRoot", u"\\sqrt{2}", "<m:rad><m:radPr><m:degHide m:val=\"1\"/></m:radPr><m:deg/>"},
+      {"RootWithIndex", u"\\sqrt [3]{x}+1",
+       "<m:rad><m:deg><m:r><m:t xml:space=\"preserve\">3</m:t></m:r></m:deg>"},
+      {"Power", u"x^{n+1}", "<m:sSup><m:e><m:r><m:t xml:space=\"preserve\">x</m:t></m:r></m:e>"},
+      {"PowerOfFraction", u"x^\\frac{2}{3}", "<m:sup><m:f>"},
+      {"Both", u"A^{5}_{3}", "<m:sSubSup>"},
+      {"Overline", u"\\overline{ab}", "<m:bar><m:barPr><m:pos m:val=\"top\"/>"},
+      {"Vector", u"\\vec{AB}", "<m:acc><m:accPr><m:chr m:val=\"\xE2\x83\x97\"/>"},
+      {"Greek", u" \\alpha + \\Omega ", "α</m:t>"},
+      {"UprightO", u" {\\mathrm O} ", "<m:sty m:val=\"p\"/></m:rPr><m:t xml:space=\"preserve\">O"},
+      {"Signs", u"a \\ge b \\ne c", "≥"},
+      {"System",
+       u"\\left\\{ \\begin{align} x+y=1 \\\\ x-y=3 \\\\ \\end{align}\\right.",
+       "<m:d><m:dPr><m:begChr m:val=\"{\"/><m:endChr m:val=\"\"/></m:dPr><m:e><m:eqArr><m:e>"},
+  };
+  for (const Row& row : rows) {
+    auto omml = LatexToOmml(row.tex);
+    ASSERT_TRUE(omml) << row.name;
+    EXPECT_NE(omml->find(row.expected), std::string::npos) << row.name << ": " << *omml;
+  }
+  EXPECT_FALSE(LatexToOmml(u"\\frac{1}{`a"));
+  EXPECT_FALSE(LatexToOmml(u"\\unknown"));
+}
+
+TEST(LatexToOmml, CorpusGivesSchemaValidMath) {
+  const auto known = Lines(LP_FORMULA_KNOWN_INVALID);
+  const std::set<std::string> invalid(known.begin(), known.end());
+  std::string para =
+      "<m:oMathPara xmlns:m=\"http://schemas.openxmlformats.org/officeDocument/2006/math\">";
+  for (const std::string& formula : Lines(LP_FORMULA_CORPUS)) {
+    std::u16string tex;
+    try {
+      tex = FormulaToFinishedLatex(FromUtf8(formula), FormulaSettings{},
+                                   DriverControl::WithTimeout(std::chrono::milliseconds(60)));
+    } catch (const FormulaAborted&) {
+      continue;
+    }
+    auto omml = LatexToOmml(tex);
+    if (!invalid.count(formula)) EXPECT_TRUE(omml) << formula << " -> " << ToUtf8(tex);
+    if (omml) para += *omml + "\n";
+  }
+  para += "</m:oMathPara>\n";
+  if (std::system("xmllint --version >/dev/null 2>&1") != 0) GTEST_SKIP() << "no xmllint";
+  auto file = std::filesystem::temp_directory_path() / "lp_formula_omml_check.xml";
+  std::ofstream(file) << para;
+  std::string command = "xmllint --noout --schema " LP_XSD_DRIVER " " + file.string() + " 2>&1";
+  EXPECT_EQ(std::system(command.c_str()), 0);
+  std::filesystem::remove(file);
+}
+
+}  // namespace
+}  // namespace lp

@@ -1,0 +1,125 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "docx_test_util.h"
+#include "word/docx/docx_application.h"
+
+namespace word::docx {
+namespace {
+
+using testing::ReadFile;
+using testing::ReadPart;
+using testing::TempDir;
+
+TEST(DocxFile, CaretPersistsBetweenRunsAndUnchangedFilesAreNotWritten) {
+  TempDir dir;
+  const auto file = dir / "sheet.docx";
+  {
+    auto app = OpenDocx(file);
+    app->Selection().TypeText(u"第一题");
+    app->Selection().TypeParagraph();
+    app->Selection().TypeText(u"x=");
+    app->Selection().MoveLeft(wdCharacter, 1, wdMove);
+    EXPECT_TRUE(app->SaveIfChanged());
+  }
+  const std::string saved = ReadFile(file);
+  {
+    auto app = OpenDocx(file);
+    EXPECT_EQ(app->Selection().Start(), 5);
+    EXPECT_EQ(app->ActiveDocument().Bookmarks().Exists(u"_lpCaret"), false);
+    EXPECT_FALSE(app->SaveIfChanged());
+  }
+  EXPECT_EQ(ReadFile(file), saved);
+  {
+    auto app = OpenDocx(file);
+    app->Selection().TypeText(u"1");
+    EXPECT_TRUE(app->SaveIfChanged());
+  }
+  auto app = OpenDocx(file);
+  EXPECT_EQ(app->ActiveDocument().Content()->Text(), u"第一题\rx1=\r");
+  EXPECT_EQ(app->Selection().Start(), 6);
+}
+
+TEST(DocxFile, FileWithoutStoredCaretHasItAtTheEndOfTheLastParagraph) {
+  auto app = OpenDocx(testing::Corpus("docx/poi/Bug54849.docx"));
+  auto& doc = app->ActiveDocument();
+  EXPECT_EQ(app->Selection().Start(), doc.Content()->End() - 1);
+}
+
+TEST(DocxFile, RefusedFilesRaiseTheTypedErrorAndStayUntouched) {
+  TempDir dir;
+  struct Row {
+    const char* name;
+    std::string bytes;
+  };
+  const Row rows[] = {
+      {"text", "hello, not a zip"},
+      {"empty", ""},
+      {"old binary", std::string("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8) + std::string(600, '\0')},
+  };
+  for (const Row& r : rows) {
+    const auto file = dir / (std::string(r.name) + ".docx");
+    std::ofstream(file, std::ios::binary) << r.bytes;
+    try {
+      auto app = OpenDocx(file);
+      ADD_FAILURE() << r.name << " opened";
+    } catch (const DocxFileError& e) {
+      EXPECT_FALSE(std::string(e.what()).empty());
+    }
+    EXPECT_EQ(ReadFile(file), r.bytes) << r.name;
+  }
+}
+
+TEST(DocxFile, CaretPositionOnThePageAndItsPage) {
+  TempDir dir;
+  auto app = OpenDocx(dir / "page.docx");
+  auto& sel = app->Selection();
+  auto& doc = app->ActiveDocument();
+  EXPECT_NEAR(sel.Information(wdHorizontalPositionRelativeToPage), 90, 0.1);
+  EXPECT_NEAR(sel.Information(wdVerticalPositionRelativeToPage), 72, 0.1);
+  for (int i = 0; i < 120; ++i) {
+    sel.TypeText(u"第" + std::u16string(1, u'0' + i % 10) + u"行");
+    sel.TypeParagraph();
+  }
+  double y = sel.Information(wdVerticalPositionRelativeToPage);
+  EXPECT_GT(y, 72);
+  EXPECT_LT(y, doc.PageSetup().PageHeight() - doc.PageSetup().BottomMargin());
+  auto page = doc.Bookmarks().Item(u"\\Page");
+  EXPECT_GT(page->Start(), 0);  // the caret is on a later page
+  EXPECT_EQ(page->End(), doc.Content()->End());
+}
+
+TEST(DocxFile, RunRaisesForUnknownMacrosAndTurnsTexIntoEquations) {
+  TempDir dir;
+  auto app = OpenDocx(dir / "tex.docx");
+  EXPECT_THROW(app->Run(u"MTCommand_TeXToggle"), ComError);
+  app->SetTexConverter([](const std::u16string& tex) -> std::optional<std::string> {
+    if (tex != u"x^2") return std::nullopt;
+    return std::string("<m:oMath><m:sSup><m:e><m:r><m:t>x</m:t></m:r></m:e><m:sup><m:r>"
+                       "<m:t>2</m:t></m:r></m:sup></m:sSup></m:oMath>");
+  });
+  auto& sel = app->Selection();
+  sel.TypeText(u"设 $x^2$ 为");
+  app->ActiveDocument().Content()->Select();
+  app->Run(u"MTCommand_TeXToggle");
+  EXPECT_EQ(app->ActiveDocument().Content()->Text(), u"设 \x01 为\r");
+  EXPECT_THROW(app->Run(u"NoSuchMacro"), ComError);
+  app->ActiveDocument().Save();
+  std::string xml = ReadPart(dir / "tex.docx", "word/document.xml");
+  EXPECT_NE(xml.find("</w:r><m:oMath><m:sSup>"), std::string::npos);
+}
+
+TEST(DocxFile, BuiltInPropertiesAreReadAndWritten) {
+  TempDir dir;
+  {
+    auto app = OpenDocx(dir / "p.docx");
+    app->ActiveDocument().SetBuiltInDocumentProperty(u"Title", u"期中试卷");
+    app->SaveIfChanged();
+  }
+  auto app = OpenDocx(dir / "p.docx");
+  EXPECT_EQ(app->ActiveDocument().BuiltInDocumentProperty(u"Title"), u"期中试卷");
+}
+
+}  // namespace
+}  // namespace word::docx
