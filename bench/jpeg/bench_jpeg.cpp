@@ -3,13 +3,15 @@
 // this program under JSIMD_FORCENONE=1, SIMD off. Prints megapixels per
 // second, the ratios, the encoder's peak memory and the PSNR of both files.
 
+#include <unistd.h>
+
 #include <QImage>
 #include <algorithm>
 #include <cmath>
-#include <cstring>
-#include <ctime>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <functional>

@@ -38,8 +38,7 @@ void Check(const std::u16string& text) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  std::u16string text =
-      lp::FromUtf8(std::string_view(reinterpret_cast<const char*>(data), size));
+  std::u16string text = lp::FromUtf8(std::string_view(reinterpret_cast<const char*>(data), size));
   Check(text);
   Check(lp::NormaliseExpression(text));
   return 0;

@@ -1,5 +1,3 @@
-#include <cmath>
-
 #include "pictures/jpeg_kernels.h"
 
 namespace lp {
@@ -52,8 +50,11 @@ void TransformBlock(const float* samples, std::ptrdiff_t stride, const float* di
     for (int j = 0; j < 8; ++j) transposed[j * 8 + k] = vertical[k * 8 + j];
   }
   TransformColumnsToRows(transposed, 8, both);
+  // Adding and taking away 1.5 * 2^23 rounds to the nearest integer, ties
+  // to even, as the vector rounding does: coefficients stay far below 2^22.
+  constexpr float kRounder = 12582912.0f;
   for (int i = 0; i < 64; ++i) {
-    const float rounded = std::nearbyint(both[i]);  // to nearest, ties to even
+    const float rounded = (both[i] + kRounder) - kRounder;
     coefficients[i] = static_cast<std::int16_t>(static_cast<int>(rounded / divisors[i]));
   }
 }

@@ -12,6 +12,8 @@ namespace {
 // byte possibly followed by a stuffed zero.
 constexpr std::size_t kMaxBlockBytes = 1024;
 
+constexpr int kTileUnits = 8;
+
 // Column-major index of the natural position row * 8 + column.
 constexpr int ColumnMajor(int natural) {
   return (natural % 8) * 8 + natural / 8;
@@ -34,9 +36,9 @@ ScanWriter::ScanWriter(JpegOutput& out, const JpegFrame& frame, const JpegKernel
       mcuHeight_(8 * frame.lumaVertical),
       mcusAcross_((frame.width + mcuWidth_ - 1) / mcuWidth_),
       mcusDown_((frame.height + mcuHeight_ - 1) / mcuHeight_),
-      planeWidth_(mcusAcross_ * mcuWidth_) {
+      tileWidth_(std::min(mcusAcross_, kTileUnits) * mcuWidth_) {
   for (int c = 0; c < frame.components; ++c) {
-    planes_[c].resize(static_cast<std::size_t>(planeWidth_) * mcuHeight_);
+    planes_[c].resize(static_cast<std::size_t>(tileWidth_) * mcuHeight_);
   }
   for (int t = 0; t < frame.Tables(); ++t) {
     for (int i = 0; i < 64; ++i) divisors_[t][kZigZagColumnMajor[i]] = frame.quantisation[t][i];
@@ -45,29 +47,33 @@ ScanWriter::ScanWriter(JpegOutput& out, const JpegFrame& frame, const JpegKernel
 
 void ScanWriter::Write(const std::uint8_t* topRow, std::ptrdiff_t rowStep) {
   for (int band = 0; band < mcusDown_; ++band) {
-    ConvertBand(topRow, rowStep, band * mcuHeight_);
-    if (mcuWidth_ > 8 || mcuHeight_ > 8) DownsampleChroma();
-    WriteBand();
+    for (int first = 0; first < mcusAcross_; first += kTileUnits) {
+      const int units = std::min(kTileUnits, mcusAcross_ - first);
+      ConvertTile(topRow, rowStep, band * mcuHeight_, first * mcuWidth_, units * mcuWidth_);
+      if (mcuWidth_ > 8 || mcuHeight_ > 8) DownsampleChroma(units * mcuWidth_);
+      WriteTile(units);
+    }
   }
 }
 
 // Partial units at the right and lower edges are filled by repeating the
 // last column and the last row of the picture: flat continuations cost the
 // fewest bits and leave no ringing at the visible edge.
-void ScanWriter::ConvertBand(const std::uint8_t* topRow, std::ptrdiff_t rowStep, int bandTop) {
+void ScanWriter::ConvertTile(const std::uint8_t* topRow, std::ptrdiff_t rowStep, int top, int left,
+                             int samples) {
+  const int inside = std::min(samples, frame_.width - left);
   for (int r = 0; r < mcuHeight_; ++r) {
-    const int y = std::min(bandTop + r, frame_.height - 1);
-    const std::uint8_t* pixels = topRow + y * rowStep;
-    const std::size_t at = static_cast<std::size_t>(r) * planeWidth_;
+    const int y = std::min(top + r, frame_.height - 1);
+    const std::uint8_t* pixels = topRow + y * rowStep + 3 * left;
+    const std::size_t at = static_cast<std::size_t>(r) * tileWidth_;
     if (frame_.components == 1) {
-      kernels_.convertGrey(pixels, frame_.width, &planes_[0][at]);
+      kernels_.convertGrey(pixels, inside, &planes_[0][at]);
     } else {
-      kernels_.convertColour(pixels, frame_.width, &planes_[0][at], &planes_[1][at],
-                             &planes_[2][at]);
+      kernels_.convertColour(pixels, inside, &planes_[0][at], &planes_[1][at], &planes_[2][at]);
     }
     for (int c = 0; c < frame_.components; ++c) {
       float* row = &planes_[c][at];
-      std::fill(row + frame_.width, row + planeWidth_, row[frame_.width - 1]);
+      std::fill(row + inside, row + samples, row[inside - 1]);
     }
   }
 }
@@ -76,15 +82,15 @@ void ScanWriter::ConvertBand(const std::uint8_t* topRow, std::ptrdiff_t rowStep,
 // four corners of its cell, a sample counted twice when the cell is one
 // wide or high), written into the same plane from its start: every write
 // lands on a place already read.
-void ScanWriter::DownsampleChroma() {
+void ScanWriter::DownsampleChroma(int samples) {
   const int h = frame_.lumaHorizontal, v = frame_.lumaVertical;
   for (int c = 1; c < 3; ++c) {
     float* plane = planes_[c].data();
     for (int r = 0; r < 8; ++r) {
-      const float* top = plane + static_cast<std::size_t>(r * v) * planeWidth_;
-      const float* bottom = top + (v - 1) * planeWidth_;
-      float* out = plane + static_cast<std::size_t>(r) * planeWidth_;
-      for (int x = 0; x < planeWidth_ / h; ++x) {
+      const float* top = plane + static_cast<std::size_t>(r * v) * tileWidth_;
+      const float* bottom = top + (v - 1) * tileWidth_;
+      float* out = plane + static_cast<std::size_t>(r) * tileWidth_;
+      for (int x = 0; x < samples / h; ++x) {
         const int left = x * h, right = left + h - 1;
         out[x] = ((top[left] + top[right]) + (bottom[left] + bottom[right])) * 0.25f;
       }
@@ -92,13 +98,12 @@ void ScanWriter::DownsampleChroma() {
   }
 }
 
-void ScanWriter::WriteBand() {
-  for (int mcu = 0; mcu < mcusAcross_; ++mcu) {
+void ScanWriter::WriteTile(int units) {
+  for (int mcu = 0; mcu < units; ++mcu) {
     for (int v = 0; v < frame_.lumaVertical; ++v) {
       for (int h = 0; h < frame_.lumaHorizontal; ++h) {
         WriteBlock(
-            &planes_[0][static_cast<std::size_t>(8 * v) * planeWidth_ + mcu * mcuWidth_ + 8 * h],
-            0);
+            &planes_[0][static_cast<std::size_t>(8 * v) * tileWidth_ + mcu * mcuWidth_ + 8 * h], 0);
       }
     }
     for (int c = 1; c < frame_.components; ++c) WriteBlock(&planes_[c][8 * mcu], c);
@@ -107,7 +112,7 @@ void ScanWriter::WriteBand() {
 
 void ScanWriter::WriteBlock(const float* samples, int component) {
   std::int16_t columnMajor[64], zigZag[64];
-  kernels_.transformBlock(samples, planeWidth_, divisors_[component == 0 ? 0 : 1].data(),
+  kernels_.transformBlock(samples, tileWidth_, divisors_[component == 0 ? 0 : 1].data(),
                           columnMajor);
 #pragma GCC unroll 64
   for (int i = 0; i < 64; ++i) zigZag[i] = columnMajor[kZigZagColumnMajor[i]];

@@ -23,9 +23,10 @@ class ScanWriter {
   void Write(const std::uint8_t* topRow, std::ptrdiff_t rowStep);
 
  private:
-  void ConvertBand(const std::uint8_t* topRow, std::ptrdiff_t rowStep, int bandTop);
-  void DownsampleChroma();
-  void WriteBand();
+  void ConvertTile(const std::uint8_t* topRow, std::ptrdiff_t rowStep, int top, int left,
+                   int samples);
+  void DownsampleChroma(int samples);
+  void WriteTile(int units);
   void WriteBlock(const float* samples, int component);
 
   JpegOutput& out_;
@@ -34,9 +35,11 @@ class ScanWriter {
   BlockCoder coder_;
   int mcuWidth_, mcuHeight_;  // in luminance samples
   int mcusAcross_, mcusDown_;
-  int planeWidth_;  // samples per plane row: whole units, the edge repeated
-  // One band of units: Y, Cb, Cr planes of mcuHeight_ rows each; the chroma
-  // planes are downsampled in place into their first rows.
+  // A tile is a few units side by side, small enough to stay in the
+  // processor's nearest cache from conversion to coding: Y, Cb and Cr planes
+  // of mcuHeight_ rows of tileWidth_ samples each. The chroma planes are
+  // downsampled in place into their first rows.
+  int tileWidth_;
   std::array<std::vector<float>, 3> planes_;
   std::array<std::array<float, 64>, 2> divisors_;  // column-major, as the transform writes
 };

@@ -45,6 +45,22 @@ std::vector<std::uint8_t> FromHex(std::string_view text) {
   return bytes;
 }
 
+// Codes of one table from its 16 counts and its values, as the standard's
+// procedure assigns them: by length, counting upward, doubling per length.
+HuffmanCodes BuildHuffmanCodes(const std::uint8_t* counts, const std::uint8_t* values) {
+  HuffmanCodes codes;
+  unsigned code = 0;
+  int k = 0;
+  for (int length = 1; length <= 16; ++length) {
+    for (int i = 0; i < counts[length - 1]; ++i, ++k, ++code) {
+      codes.code[values[k]] = static_cast<std::uint16_t>(code);
+      codes.length[values[k]] = static_cast<std::uint8_t>(length);
+    }
+    code <<= 1;
+  }
+  return codes;
+}
+
 JpegTables MakeTables() {
   JpegTables t;
   t.quantisationPayload = FromHex(kQuantisationHex);
@@ -65,20 +81,6 @@ JpegTables MakeTables() {
 }
 
 }  // namespace
-
-HuffmanCodes BuildHuffmanCodes(const std::uint8_t* counts, const std::uint8_t* values) {
-  HuffmanCodes codes;
-  unsigned code = 0;
-  int k = 0;
-  for (int length = 1; length <= 16; ++length) {
-    for (int i = 0; i < counts[length - 1]; ++i, ++k, ++code) {
-      codes.code[values[k]] = static_cast<std::uint16_t>(code);
-      codes.length[values[k]] = static_cast<std::uint8_t>(length);
-    }
-    code <<= 1;
-  }
-  return codes;
-}
 
 const JpegTables& GetJpegTables() {
   static const JpegTables tables = MakeTables();  // the language guards the first build

@@ -63,8 +63,4 @@ const JpegTables& GetJpegTables();
 // Q = 0 keeps the table, Q = 100 gives all ones.
 std::array<std::uint8_t, 64> ScaledQuantisationTable(int table, int q);
 
-// Codes of one table from its 16 counts and its values, as the standard's
-// procedure assigns them: by length, counting upward, doubling per length.
-HuffmanCodes BuildHuffmanCodes(const std::uint8_t* counts, const std::uint8_t* values);
-
 }  // namespace lp

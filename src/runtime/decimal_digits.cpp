@@ -31,8 +31,8 @@ long MagnitudeOf(std::string_view text) {
   size_t point = mantissa.find('.');
   if (point == std::string_view::npos) point = mantissa.size();
   size_t first = mantissa.find_first_of("123456789");
-  long place = first < point ? static_cast<long>(point - first) - 1
-                             : -static_cast<long>(first - point);
+  long place =
+      first < point ? static_cast<long>(point - first) - 1 : -static_cast<long>(first - point);
   return place + exponent;
 }
 

@@ -76,9 +76,13 @@ void Recordset::Open(const std::string& sql, Connection& conn) {
   sqlite3* db = conn.Handle();
   table_ = TableOf(sql);
   Statement st;
-  std::string query =
-      table_.empty() ? sql : "select rowid, " + sql.substr(sql.find_first_not_of(" \t") + 6);
-  if (sqlite3_prepare_v2(db, query.c_str(), -1, &st.stmt, nullptr) != SQLITE_OK) RaiseSqlError(db);
+  if (!table_.empty()) {
+    std::string withRowid = "select rowid, " + sql.substr(sql.find_first_not_of(" \t") + 6);
+    if (sqlite3_prepare_v2(db, withRowid.c_str(), -1, &st.stmt, nullptr) != SQLITE_OK)
+      table_.clear();  // not a plain select over the table: read-only
+  }
+  if (table_.empty() && sqlite3_prepare_v2(db, sql.c_str(), -1, &st.stmt, nullptr) != SQLITE_OK)
+    RaiseSqlError(db);
   int first = table_.empty() ? 0 : 1;
   for (int i = first; i < sqlite3_column_count(st.stmt); ++i)
     columns_.push_back(sqlite3_column_name(st.stmt, i));

@@ -37,9 +37,9 @@ struct SizeName {
 };
 
 constexpr std::array<SizeName, 19> kSizeNames = {{
-    {u"大特号", 63}, {u"特号", 54},  {u"初号", 42},   {u"小初", 36}, {u"大一号", 31.5},
-    {u"一号", 28},   {u"小一", 24},  {u"二号", 21},   {u"小二", 18}, {u"三号", 16},
-    {u"小三", 15},   {u"四号", 14},  {u"小四", 12},   {u"五号", 10.5}, {u"小五", 9},
+    {u"大特号", 63}, {u"特号", 54},    {u"初号", 42},   {u"小初", 36},   {u"大一号", 31.5},
+    {u"一号", 28},   {u"小一", 24},    {u"二号", 21},   {u"小二", 18},   {u"三号", 16},
+    {u"小三", 15},   {u"四号", 14},    {u"小四", 12},   {u"五号", 10.5}, {u"小五", 9},
     {u"六号", 8},    {u"小六", 6.875}, {u"七号", 5.25}, {u"八号", 4.5},
 }};
 
@@ -49,8 +49,8 @@ std::u16string PiFractionText(const std::u16string& t1, const std::u16string& t2
                               const std::u16string& t3) {
   Ratio r1 = SplitAtSlash(t1), r2 = SplitAtSlash(t2), r3 = SplitAtSlash(t3);
   bool pi1 = InStr(r1.numerator, u"pi") > 0, pi2 = InStr(r2.numerator, u"pi") > 0;
-  bool carriesPi = (pi1 && pi2) || (pi1 && Val(r2.numerator) == 0) ||
-                   (pi2 && Val(r1.numerator) == 0);
+  bool carriesPi =
+      (pi1 && pi2) || (pi1 && Val(r2.numerator) == 0) || (pi2 && Val(r1.numerator) == 0);
   double n1 = Val(Replace(r1.numerator, u"pi", u"1"));
   double n2 = Val(Replace(r2.numerator, u"pi", u"1"));
   double d1 = Val(r1.denominator), d2 = Val(r2.denominator);

@@ -29,15 +29,16 @@ struct LinearSolution {
 
 // ParseInequality.
 struct InequalitySolution {
-  std::u16string InequalityOp;  // as found
+  std::u16string InequalityOp;                     // as found
   std::u16string InequalityLeft, InequalityRight;  // the sides as typed, trimmed
-  std::u16string InequalityResultOp;  // the operator of the answer
-  std::u16string InequalityText;      // the bound, or "K" or "R"
-  double CoefX = 0, CoefConst = 0;    // a and b of a x + b
-  double ResultNumber = 0;            // -b / a
+  std::u16string InequalityResultOp;               // the operator of the answer
+  std::u16string InequalityText;                   // the bound, or "K" or "R"
+  double CoefX = 0, CoefConst = 0;                 // a and b of a x + b
+  double ResultNumber = 0;                         // -b / a
 };
 
-// SolveQuadratic. With QuadDelta below 0 the roots and texts stay empty.
+// SolveQuadratic. With QuadDelta below 0, or not whole (the teacher is told
+// so), the roots and texts stay empty.
 struct QuadraticSolution {
   double QuadA = 0, QuadB = 0, QuadC = 0, QuadDelta = 0;
   int16_t QuadRootIndex = 0;

@@ -2,9 +2,13 @@
 
 namespace lp {
 
-void Emitter::PushConst(double value) { program_.push_back({OpCode::kPushConst, value}); }
+void Emitter::PushConst(double value) {
+  program_.push_back({OpCode::kPushConst, value});
+}
 
-void Emitter::PushX() { program_.push_back({OpCode::kPushX}); }
+void Emitter::PushX() {
+  program_.push_back({OpCode::kPushX});
+}
 
 void Emitter::Fail(EvalErrorKind kind) {
   program_.push_back({OpCode::kFail, static_cast<double>(kind)});

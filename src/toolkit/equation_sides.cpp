@@ -20,6 +20,8 @@ double EquationSides::F(double x) const {
   return Quotient(left - EvalAtX(x, right_), 1);
 }
 
-std::u16string NumberText(double value) { return Trim(Str(value)); }
+std::u16string NumberText(double value) {
+  return Trim(Str(value));
+}
 
 }  // namespace lp

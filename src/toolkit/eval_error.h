@@ -10,15 +10,15 @@
 namespace lp {
 
 enum class EvalErrorKind {
-  kSyntax,            // not an expression of the language
-  kTooComplex,        // brackets nested beyond the evaluator's depth
-  kUnknownFunction,   // a call of a name that is no function (x included)
-  kWrongArguments,    // a function without exactly one argument
-  kDivisionByZero,    // a / 0 with a not 0, and 0 ^ negative
-  kLogarithmDomain,   // log of a number not above 0
-  kRootDomain,        // sqr of a negative number
-  kPowerDomain,       // a negative base with a fractional exponent
-  kOverflow,          // a result beyond the double range, and 0 / 0
+  kSyntax,           // not an expression of the language
+  kTooComplex,       // brackets nested beyond the evaluator's depth
+  kUnknownFunction,  // a call of a name that is no function (x included)
+  kWrongArguments,   // a function without exactly one argument
+  kDivisionByZero,   // a / 0 with a not 0, and 0 ^ negative
+  kLogarithmDomain,  // log of a number not above 0
+  kRootDomain,       // sqr of a negative number
+  kPowerDomain,      // a negative base with a fractional exponent
+  kOverflow,         // a result beyond the double range, and 0 / 0
 };
 
 class EvalError : public RuntimeError {

@@ -12,11 +12,21 @@
 
 namespace lp {
 
-bool IsWhole(double x) { return Int(x) == x; }
-bool IsEven(int16_t n) { return IsWhole(n) && IsWhole(n / 2.0); }
-bool IsOdd(int16_t n) { return IsWhole(n) && !IsWhole(n / 2.0); }
-double MaxOf(double a, double b) { return a > b ? a : b; }
-double MinOf(double a, double b) { return a < b ? a : b; }
+bool IsWhole(double x) {
+  return Int(x) == x;
+}
+bool IsEven(int16_t n) {
+  return IsWhole(n) && IsWhole(n / 2.0);
+}
+bool IsOdd(int16_t n) {
+  return IsWhole(n) && !IsWhole(n / 2.0);
+}
+double MaxOf(double a, double b) {
+  return a > b ? a : b;
+}
+double MinOf(double a, double b) {
+  return a < b ? a : b;
+}
 
 int32_t Gcd(int32_t a, int32_t b) {
   if (a == b) return a;
@@ -87,16 +97,22 @@ double Factorial(double n, Prompt& prompt) {
   return product;
 }
 
-void SortAscendingInt(std::vector<int16_t>& values) {
+namespace {
+
+template <typename T>
+void SortFromOne(std::vector<T>& values) {
   for (size_t i = 1; i < values.size(); ++i)
     for (size_t j = 1; j <= i; ++j)
       if (values[i] < values[j]) std::swap(values[i], values[j]);
 }
 
+}  // namespace
+
+void SortAscendingInt(std::vector<int16_t>& values) {
+  SortFromOne(values);
+}
 void SortAscendingSingle(std::vector<float>& values) {
-  for (size_t i = 1; i < values.size(); ++i)
-    for (size_t j = 1; j <= i; ++j)
-      if (values[i] < values[j]) std::swap(values[i], values[j]);
+  SortFromOne(values);
 }
 
 int16_t IndexOfSingle(float value, const std::vector<float>& values) {

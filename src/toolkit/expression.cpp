@@ -1,5 +1,6 @@
 #include "toolkit/expression.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "runtime/text.h"
@@ -33,30 +34,87 @@ double Run(const std::vector<Instruction>& program, double x, double* stack) {
   auto pop = [&top] { return *top--; };
   for (const Instruction& in : program) {
     switch (in.code) {
-      case OpCode::kPushConst: *++top = in.value; break;
-      case OpCode::kPushX: *++top = x; break;
-      case OpCode::kAdd: { double b = pop(); *top = Finite(*top + b); break; }
-      case OpCode::kAddValue: *top = Finite(*top + in.value); break;
-      case OpCode::kAddX: *top = Finite(*top + x); break;
-      case OpCode::kSubtract: { double b = pop(); *top = Finite(*top - b); break; }
-      case OpCode::kSubtractValue: *top = Finite(*top - in.value); break;
-      case OpCode::kSubtractX: *top = Finite(*top - x); break;
-      case OpCode::kMultiply: { double b = pop(); *top = Finite(*top * b); break; }
-      case OpCode::kMultiplyValue: *top = Finite(*top * in.value); break;
-      case OpCode::kMultiplyX: *top = Finite(*top * x); break;
-      case OpCode::kDivide: { double b = pop(); *top = Divide(*top, b); break; }
-      case OpCode::kDivideValue: *top = Divide(*top, in.value); break;
-      case OpCode::kDivideX: *top = Divide(*top, x); break;
-      case OpCode::kPower: { double b = pop(); *top = Power(*top, b); break; }
-      case OpCode::kPowerValue: *top = Power(*top, in.value); break;
-      case OpCode::kPowerX: *top = Power(*top, x); break;
-      case OpCode::kNegate: *top = -*top; break;
-      case OpCode::kSquare: *top = Finite(*top * *top); break;
-      case OpCode::kSin: *top = std::sin(*top); break;
-      case OpCode::kCos: *top = std::cos(*top); break;
-      case OpCode::kAbs: *top = std::fabs(*top); break;
-      case OpCode::kFail: RaiseEvalError(static_cast<EvalErrorKind>(in.value));
-      default: *top = ApplyUnary(in.code, *top); break;
+      case OpCode::kPushConst:
+        *++top = in.value;
+        break;
+      case OpCode::kPushX:
+        *++top = x;
+        break;
+      case OpCode::kAdd: {
+        double b = pop();
+        *top = Finite(*top + b);
+        break;
+      }
+      case OpCode::kAddValue:
+        *top = Finite(*top + in.value);
+        break;
+      case OpCode::kAddX:
+        *top = Finite(*top + x);
+        break;
+      case OpCode::kSubtract: {
+        double b = pop();
+        *top = Finite(*top - b);
+        break;
+      }
+      case OpCode::kSubtractValue:
+        *top = Finite(*top - in.value);
+        break;
+      case OpCode::kSubtractX:
+        *top = Finite(*top - x);
+        break;
+      case OpCode::kMultiply: {
+        double b = pop();
+        *top = Finite(*top * b);
+        break;
+      }
+      case OpCode::kMultiplyValue:
+        *top = Finite(*top * in.value);
+        break;
+      case OpCode::kMultiplyX:
+        *top = Finite(*top * x);
+        break;
+      case OpCode::kDivide: {
+        double b = pop();
+        *top = Divide(*top, b);
+        break;
+      }
+      case OpCode::kDivideValue:
+        *top = Divide(*top, in.value);
+        break;
+      case OpCode::kDivideX:
+        *top = Divide(*top, x);
+        break;
+      case OpCode::kPower: {
+        double b = pop();
+        *top = Power(*top, b);
+        break;
+      }
+      case OpCode::kPowerValue:
+        *top = Power(*top, in.value);
+        break;
+      case OpCode::kPowerX:
+        *top = Power(*top, x);
+        break;
+      case OpCode::kNegate:
+        *top = -*top;
+        break;
+      case OpCode::kSquare:
+        *top = Finite(*top * *top);
+        break;
+      case OpCode::kSin:
+        *top = std::sin(*top);
+        break;
+      case OpCode::kCos:
+        *top = std::cos(*top);
+        break;
+      case OpCode::kAbs:
+        *top = std::fabs(*top);
+        break;
+      case OpCode::kFail:
+        RaiseEvalError(static_cast<EvalErrorKind>(in.value));
+      default:
+        *top = ApplyUnary(in.code, *top);
+        break;
     }
   }
   return *top;
@@ -76,7 +134,9 @@ double CompiledExpression::Evaluate(double x) const {
   return Run(program_, x, stack.data());
 }
 
-double CompiledExpression::EvalAtX(double x) const { return Evaluate(XThroughText(x)); }
+double CompiledExpression::EvalAtX(double x) const {
+  return Evaluate(XThroughText(x));
+}
 
 double XThroughText(double x) {
   char text[32];

@@ -29,7 +29,8 @@ class CompiledExpression {
   double EvalAtX(double x) const;
   // Evaluate at each of xs, a block of points at a time: the values are
   // those of Evaluate, and a point where Evaluate fails gets NaN (a value
-  // never is NaN). Evaluate tells why a point failed.
+  // never is NaN). Evaluate tells why a point failed. For the values of
+  // EvalAtX, pass the xs through XThroughText first.
   void EvaluateMany(std::span<const double> xs, std::span<double> values) const;
 
  private:

@@ -16,7 +16,9 @@ namespace {
 constexpr int kLanes = 64;
 constexpr double kFailed = std::numeric_limits<double>::quiet_NaN();
 
-inline double Kept(double r) { return std::isfinite(r) ? r : kFailed; }
+inline double Kept(double r) {
+  return std::isfinite(r) ? r : kFailed;
+}
 
 struct AddLanes {
   double operator()(double a, double b) const { return Kept(a + b); }
@@ -41,11 +43,16 @@ struct PowerLanes {
 
 double UnaryLane(OpCode code, double a) {
   switch (code) {
-    case OpCode::kSqr: return a < 0 ? kFailed : std::sqrt(a);
-    case OpCode::kLog: return a <= 0 ? kFailed : std::log(a);
-    case OpCode::kSquare: return Kept(a * a);
-    case OpCode::kExp: return Kept(std::exp(a));
-    default: return ApplyUnary(code, a);  // the rest can't fail and keep NaN
+    case OpCode::kSqr:
+      return a < 0 ? kFailed : std::sqrt(a);
+    case OpCode::kLog:
+      return a <= 0 ? kFailed : std::log(a);
+    case OpCode::kSquare:
+      return Kept(a * a);
+    case OpCode::kExp:
+      return Kept(std::exp(a));
+    default:
+      return ApplyUnary(code, a);  // the rest can't fail and keep NaN
   }
 }
 
@@ -64,19 +71,36 @@ class Lanes {
   // form 0: right operand on the stack, 1: value, 2: x.
   template <typename F>
   void Binary(int form, double value, F f) {
-    double* right = form == 0 ? top_ : nullptr;
-    if (form == 0) top_ -= kLanes;
-    for (int i = 0; i < n_; ++i)
-      top_[i] = f(top_[i], form == 0 ? right[i] : form == 1 ? value : x_[i]);
+    if (form == 0) {
+      top_ -= kLanes;
+      const double* right = top_ + kLanes;
+      for (int i = 0; i < n_; ++i) top_[i] = f(top_[i], right[i]);
+    } else if (form == 1) {
+      for (int i = 0; i < n_; ++i) top_[i] = f(top_[i], value);
+    } else {
+      for (int i = 0; i < n_; ++i) top_[i] = f(top_[i], x_[i]);
+    }
   }
   void Unary(OpCode code) {
     switch (code) {
-      case OpCode::kNegate: For([](double a) { return -a; }); break;
-      case OpCode::kSin: For([](double a) { return std::sin(a); }); break;
-      case OpCode::kCos: For([](double a) { return std::cos(a); }); break;
-      case OpCode::kAbs: For([](double a) { return std::fabs(a); }); break;
-      case OpCode::kSquare: For([](double a) { return Kept(a * a); }); break;
-      default: For([code](double a) { return UnaryLane(code, a); }); break;
+      case OpCode::kNegate:
+        For([](double a) { return -a; });
+        break;
+      case OpCode::kSin:
+        For([](double a) { return std::sin(a); });
+        break;
+      case OpCode::kCos:
+        For([](double a) { return std::cos(a); });
+        break;
+      case OpCode::kAbs:
+        For([](double a) { return std::fabs(a); });
+        break;
+      case OpCode::kSquare:
+        For([](double a) { return Kept(a * a); });
+        break;
+      default:
+        For([code](double a) { return UnaryLane(code, a); });
+        break;
     }
   }
   const double* Top() const { return top_; }
@@ -99,15 +123,33 @@ void RunBlock(const std::vector<Instruction>& program, const double* x, int n, d
     int form = IsBinary(in.code) ? (static_cast<int>(in.code) - 2) % 3 : 0;
     OpCode stackForm = BinaryForm(in.code, -form);
     switch (stackForm) {
-      case OpCode::kPushConst: lanes.Push(in.value); break;
-      case OpCode::kPushX: lanes.PushX(); break;
-      case OpCode::kAdd: lanes.Binary(form, in.value, AddLanes()); break;
-      case OpCode::kSubtract: lanes.Binary(form, in.value, SubtractLanes()); break;
-      case OpCode::kMultiply: lanes.Binary(form, in.value, MultiplyLanes()); break;
-      case OpCode::kDivide: lanes.Binary(form, in.value, DivideLanes()); break;
-      case OpCode::kPower: lanes.Binary(form, in.value, PowerLanes()); break;
-      case OpCode::kFail: std::fill(values, values + n, kFailed); return;
-      default: lanes.Unary(in.code); break;
+      case OpCode::kPushConst:
+        lanes.Push(in.value);
+        break;
+      case OpCode::kPushX:
+        lanes.PushX();
+        break;
+      case OpCode::kAdd:
+        lanes.Binary(form, in.value, AddLanes());
+        break;
+      case OpCode::kSubtract:
+        lanes.Binary(form, in.value, SubtractLanes());
+        break;
+      case OpCode::kMultiply:
+        lanes.Binary(form, in.value, MultiplyLanes());
+        break;
+      case OpCode::kDivide:
+        lanes.Binary(form, in.value, DivideLanes());
+        break;
+      case OpCode::kPower:
+        lanes.Binary(form, in.value, PowerLanes());
+        break;
+      case OpCode::kFail:
+        std::fill(values, values + n, kFailed);
+        return;
+      default:
+        lanes.Unary(in.code);
+        break;
     }
   }
   std::copy(lanes.Top(), lanes.Top() + n, values);

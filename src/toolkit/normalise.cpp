@@ -67,8 +67,8 @@ std::u16string NormaliseExpression(const std::u16string& text) {
 }
 
 bool HasFormulaSymbols(const std::u16string& text) {
-  static const char16_t* const kSymbols[] = {u"/",   u"g",   u"^",   u"ln",  u"sin", u"cos",
-                                             u"tan", u"cot", u"sqr", u"@",   u"pi"};
+  static const char16_t* const kSymbols[] = {u"/",   u"g",   u"^",   u"ln", u"sin", u"cos",
+                                             u"tan", u"cot", u"sqr", u"@",  u"pi"};
   std::u16string lower = LCase(text);
   for (const char16_t* symbol : kSymbols)
     if (InStrText(lower, symbol) > 0) return true;

@@ -32,18 +32,22 @@ constexpr std::array<Function, 9> kFunctions = {{
 // Words of the script language that are no variable names: using one in an
 // expression is outside the language.
 constexpr std::array<std::string_view, 60> kReservedWords = {
-    "and",     "byref",  "byval",    "call",    "case",     "class",  "const", "default",
-    "dim",     "do",     "each",     "else",    "elseif",   "empty",  "end",   "eqv",
-    "erase",   "error",  "exit",     "explicit", "false",   "for",    "function", "get",
-    "goto",    "if",     "imp",      "in",      "is",       "let",    "loop",  "me",
-    "mod",     "new",    "next",     "not",     "nothing",  "null",   "on",    "option",
-    "or",      "preserve", "private", "property", "public", "redim",  "rem",   "resume",
-    "select",  "set",    "step",     "stop",    "sub",      "then",   "to",    "true",
-    "until",   "wend",   "while",    "xor",
+    "and",    "byref",    "byval",   "call",     "case",    "class", "const",    "default",
+    "dim",    "do",       "each",    "else",     "elseif",  "empty", "end",      "eqv",
+    "erase",  "error",    "exit",    "explicit", "false",   "for",   "function", "get",
+    "goto",   "if",       "imp",     "in",       "is",      "let",   "loop",     "me",
+    "mod",    "new",      "next",    "not",      "nothing", "null",  "on",       "option",
+    "or",     "preserve", "private", "property", "public",  "redim", "rem",      "resume",
+    "select", "set",      "step",    "stop",     "sub",     "then",  "to",       "true",
+    "until",  "wend",     "while",   "xor",
 };
 
-bool IsAsciiDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
-bool IsAsciiLetter(char16_t c) { return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'); }
+bool IsAsciiDigit(char16_t c) {
+  return c >= u'0' && c <= u'9';
+}
+bool IsAsciiLetter(char16_t c) {
+  return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
+}
 
 class Parser {
  public:
@@ -242,6 +246,8 @@ class Parser {
 
 }  // namespace
 
-std::vector<Instruction> ParseExpression(const std::u16string& text) { return Parser(text).Run(); }
+std::vector<Instruction> ParseExpression(const std::u16string& text) {
+  return Parser(text).Run();
+}
 
 }  // namespace lp

@@ -43,7 +43,9 @@ enum class OpCode : uint8_t {
   kFail,  // raises the error kind held in value
 };
 
-inline bool IsBinary(OpCode code) { return code >= OpCode::kAdd && code <= OpCode::kPowerX; }
+inline bool IsBinary(OpCode code) {
+  return code >= OpCode::kAdd && code <= OpCode::kPowerX;
+}
 
 // kAdd, kAddValue or kAddX for kAdd and form 0, 1 or 2.
 inline OpCode BinaryForm(OpCode stackForm, int form) {
@@ -80,31 +82,45 @@ inline double Power(double a, double b) {
 // code is the stack form of the operation.
 inline double ApplyBinary(OpCode code, double a, double b) {
   switch (code) {
-    case OpCode::kAdd: return Finite(a + b);
-    case OpCode::kSubtract: return Finite(a - b);
-    case OpCode::kMultiply: return Finite(a * b);
-    case OpCode::kDivide: return Divide(a, b);
-    default: return Power(a, b);
+    case OpCode::kAdd:
+      return Finite(a + b);
+    case OpCode::kSubtract:
+      return Finite(a - b);
+    case OpCode::kMultiply:
+      return Finite(a * b);
+    case OpCode::kDivide:
+      return Divide(a, b);
+    default:
+      return Power(a, b);
   }
 }
 
 inline double ApplyUnary(OpCode code, double a) {
   switch (code) {
-    case OpCode::kNegate: return -a;
-    case OpCode::kSquare: return Finite(a * a);
-    case OpCode::kSin: return std::sin(a);
-    case OpCode::kCos: return std::cos(a);
-    case OpCode::kTan: return std::tan(a);
-    case OpCode::kAtn: return std::atan(a);
+    case OpCode::kNegate:
+      return -a;
+    case OpCode::kSquare:
+      return Finite(a * a);
+    case OpCode::kSin:
+      return std::sin(a);
+    case OpCode::kCos:
+      return std::cos(a);
+    case OpCode::kTan:
+      return std::tan(a);
+    case OpCode::kAtn:
+      return std::atan(a);
     case OpCode::kSqr:
       if (a < 0) RaiseEvalError(EvalErrorKind::kRootDomain);
       return std::sqrt(a);
     case OpCode::kLog:
       if (a <= 0) RaiseEvalError(EvalErrorKind::kLogarithmDomain);
       return std::log(a);
-    case OpCode::kAbs: return std::fabs(a);
-    case OpCode::kInt: return std::floor(a);
-    default: return Finite(std::exp(a));
+    case OpCode::kAbs:
+      return std::fabs(a);
+    case OpCode::kInt:
+      return std::floor(a);
+    default:
+      return Finite(std::exp(a));
   }
 }
 

@@ -35,7 +35,8 @@ std::u16string WholeCoefficientsText(double a, double b) {
 // printed text (leading blank included).
 std::u16string RoundedQuotientText(double a, double b) {
   std::u16string rounded = Format(Quotient(-b, a), u"#.###");
-  if (std::none_of(rounded.begin(), rounded.end(), [](char16_t c) { return c >= u'0' && c <= u'9'; }))
+  if (std::none_of(rounded.begin(), rounded.end(),
+                   [](char16_t c) { return c >= u'0' && c <= u'9'; }))
     RaiseTypeMismatch();  // "." and "-." are no numbers
   double v = Val(rounded);
   Fraction f = DecimalToFraction(Str(std::abs(v)));
@@ -92,8 +93,8 @@ std::optional<InequalitySolution> ParseInequality(const std::u16string& text, Pr
 
   std::u16string normalised = NormaliseExpression(text);
   at = InStr(normalised, s.InequalityOp);
-  LinearSolution linear = SolveLinear(Left(normalised, at - 1) + u"= " +
-                                      Mid(normalised, at + Len(s.InequalityOp)));
+  LinearSolution linear =
+      SolveLinear(Left(normalised, at - 1) + u"= " + Mid(normalised, at + Len(s.InequalityOp)));
   double a = linear.LinearA, b = linear.LinearB;
   s.CoefX = a;
   s.CoefConst = b;

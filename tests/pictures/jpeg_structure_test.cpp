@@ -84,6 +84,14 @@ TEST(JpegStructure, QualityValueScalesTheBaseTables) {
   EXPECT_EQ(grey, First(base, 0, 65));
 }
 
+TEST(JpegStructure, ZigZagWalksTheAntiDiagonals) {
+  const std::array<std::uint8_t, 10> start{0, 1, 8, 16, 9, 2, 3, 10, 17, 24};
+  EXPECT_TRUE(std::equal(start.begin(), start.end(), kZigZag.begin()));
+  EXPECT_EQ(kZigZag[35], 56);  // the first of the lower-left corner
+  EXPECT_EQ(kZigZag[62], 62);
+  EXPECT_EQ(kZigZag[63], 63);
+}
+
 TEST(JpegStructure, HuffmanCodesFollowTheCounts) {
   // Luminance DC: one code of 2 bits, five of 3, then one more bit each.
   const HuffmanCodes& dc = GetJpegTables().dc[0];

@@ -31,8 +31,9 @@ TEST(Exact, SimplifyRadicalTakesOutWholePowers) {
   struct Row {
     double index, radicand;
     int outer, inner;
-  } rows[] = {{2, 12, 2, 3}, {2, 1, 1, 1}, {3, 54, 3, 2}, {2, 72, 6, 2},
-              {2, 2147483647, 1, 2147483647}, {2, 1024, 32, 1}, {2, 98, 7, 2}};
+  } rows[] = {
+      {2, 12, 2, 3},    {2, 1, 1, 1}, {3, 54, 3, 2}, {2, 72, 6, 2}, {2, 2147483647, 1, 2147483647},
+      {2, 1024, 32, 1}, {2, 98, 7, 2}};
   for (const Row& r : rows) {
     std::optional<Radical> radical = SimplifyRadical(r.index, r.radicand, prompt);
     ASSERT_TRUE(radical);
@@ -45,8 +46,7 @@ TEST(Exact, SimplifyRadicalTakesOutWholePowers) {
   EXPECT_FALSE(SimplifyRadical(2, -4, prompt));
   ASSERT_EQ(prompt.Shown().size(), 2u);
   EXPECT_EQ(prompt.Shown()[0].prompt, u"根指数或被开方数不是整数！");
-  EXPECT_EQ(prompt.Shown()[1].prompt,
-            u"您输入的数据范围有误，请确认该整数不在0~2147483647之间！");
+  EXPECT_EQ(prompt.Shown()[1].prompt, u"您输入的数据范围有误，请确认该整数不在0~2147483647之间！");
   EXPECT_EQ(prompt.Shown()[1].style, 0);
 }
 
@@ -55,8 +55,8 @@ TEST(Exact, DecimalToFraction) {
     const char16_t* text;
     double num;
     int den;
-  } rows[] = {{u"0.(3)", 1, 3},   {u"0.1(6)", 1, 6}, {u"2", 2, 1},       {u"1.25", 5, 4},
-              {u"12.5", 241, 2},  {u" .5", 1, 2},    {u" 1.5", 21, 2},   {u"1.(142857)", 8, 7}};
+  } rows[] = {{u"0.(3)", 1, 3},  {u"0.1(6)", 1, 6}, {u"2", 2, 1},     {u"1.25", 5, 4},
+              {u"12.5", 241, 2}, {u" .5", 1, 2},    {u" 1.5", 21, 2}, {u"1.(142857)", 8, 7}};
   for (const Row& r : rows) {
     Fraction f = DecimalToFraction(r.text);
     EXPECT_EQ(f.ReducedNum, r.num) << ToUtf8(r.text);
@@ -90,10 +90,10 @@ TEST(AnswerText, PiFractions) {
   struct Row {
     const char16_t *t1, *t2, *t3, *text;
   } rows[] = {
-      {u"pi", u"0", u"2", u"(@p)/2"},     {u"pi", u"pi", u"2", u"@p"},
-      {u"pi/3", u"0", u"1", u"(@p)/3"},   {u"-pi", u"0", u"1", u"-@p"},
-      {u"-pi", u"0", u"3", u"-(@p)/3"},   {u"pi", u"pi/2", u"1", u"(3@p)/2"},
-      {u"pi", u"0", u"--4/3", u"(3@p)/4"}, {u"1", u"1/2", u"1", u"(3)/2"},
+      {u"pi", u"0", u"2", u"(@p)/2"},       {u"pi", u"pi", u"2", u"@p"},
+      {u"pi/3", u"0", u"1", u"(@p)/3"},     {u"-pi", u"0", u"1", u"-@p"},
+      {u"-pi", u"0", u"3", u"-(@p)/3"},     {u"pi", u"pi/2", u"1", u"(3@p)/2"},
+      {u"pi", u"0", u"--4/3", u"(3@p)/4"},  {u"1", u"1/2", u"1", u"(3)/2"},
       {u"pi/2", u"pi/3", u"1", u"(5@p)/6"},
   };
   for (const Row& r : rows) EXPECT_EQ(ToUtf8(PiFractionText(r.t1, r.t2, r.t3)), ToUtf8(r.text));

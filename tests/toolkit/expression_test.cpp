@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "runtime/utf8.h"
 #include "toolkit/eval_error.h"
@@ -28,14 +29,28 @@ TEST(Evaluator, FollowsTheScriptLanguage) {
     double x;
     double value;
   } rows[] = {
-      {u"-2^2", 0, -4},         {u"2^3^2", 0, 64},         {u"2^-1", 0, 0.5},
-      {u"2*-3", 0, -6},         {u"2--3", 0, 5},           {u"-x^2", 3, -9},
-      {u"1/2*x", 4, 2},         {u"x2", 5, 0},             {u"y+1", 5, 1},
-      {u"SIN(X)", 0.5, std::sin(0.5)}, {u"atn(1)*4", 0, std::atan(1) * 4},
-      {u"int(-2.5)", 0, -3},    {u"abs(-x)", 2, 2},        {u"exp(1)", 0, std::exp(1)},
-      {u"log(2.71828)", 0, std::log(2.71828)}, {u"sqr(x+1)", 3, 2},
-      {u" 1.5e1 + .5 ", 0, 15.5}, {u"5.", 0, 5},         {u"(-8)^2", 0, 64},
-      {u"0^0", 0, 1},           {u"sin (x)", 0, 0},        {u"2^-2^2", 0, 1.0 / 16},
+      {u"-2^2", 0, -4},
+      {u"2^3^2", 0, 64},
+      {u"2^-1", 0, 0.5},
+      {u"2*-3", 0, -6},
+      {u"2--3", 0, 5},
+      {u"-x^2", 3, -9},
+      {u"1/2*x", 4, 2},
+      {u"x2", 5, 0},
+      {u"y+1", 5, 1},
+      {u"SIN(X)", 0.5, std::sin(0.5)},
+      {u"atn(1)*4", 0, std::atan(1) * 4},
+      {u"int(-2.5)", 0, -3},
+      {u"abs(-x)", 2, 2},
+      {u"exp(1)", 0, std::exp(1)},
+      {u"log(2.71828)", 0, std::log(2.71828)},
+      {u"sqr(x+1)", 3, 2},
+      {u" 1.5e1 + .5 ", 0, 15.5},
+      {u"5.", 0, 5},
+      {u"(-8)^2", 0, 64},
+      {u"0^0", 0, 1},
+      {u"sin (x)", 0, 0},
+      {u"2^-2^2", 0, 1.0 / 16},
   };
   for (const Row& r : rows)
     EXPECT_DOUBLE_EQ(CompiledExpression(r.expression).Evaluate(r.x), r.value)
@@ -128,7 +143,9 @@ TEST(Evaluator, AgreesWithAnIndependentReference) {
       EXPECT_EQ(BlockValueAt(*compiled, x), value);
     } catch (const EvalError& e) {
       EXPECT_EQ(std::string("error:") + EvalErrorKindName(e.Kind()), expected);
-      if (compiled) EXPECT_TRUE(std::isnan(BlockValueAt(*compiled, x)));
+      if (compiled) {
+        EXPECT_TRUE(std::isnan(BlockValueAt(*compiled, x)));
+      }
     }
   }
   EXPECT_EQ(pclose(pipe), 0);

@@ -19,11 +19,20 @@ TEST(SolveLinear, AnswerTexts) {
     const char16_t* equation;
     const char16_t* text;
   } rows[] = {
-      {u"2x=3", u"3/2"},       {u"2x=-3", u"-3 / 2"},   {u"0x=1", u"K"},
-      {u"0x=0", u"R"},         {u"3x=0", u"0"},         {u"4x-2=0", u"1/2"},
-      {u"-4x=2", u"-1 / 2"},   {u"x+1=3", u"2"},        {u"-x=3", u"-3"},
-      {u"3x=1.5", u"1 / 2"},   {u"x/3=1/9", u"333 / 1000"},
-      {u"0.5x=-1", u"-2"},     {u"x/2=-5/8", u"-41 / 4"}, {u"x/4=0.3125", u"41 / 4"},
+      {u"2x=3", u"3/2"},
+      {u"2x=-3", u"-3 / 2"},
+      {u"0x=1", u"K"},
+      {u"0x=0", u"R"},
+      {u"3x=0", u"0"},
+      {u"4x-2=0", u"1/2"},
+      {u"-4x=2", u"-1 / 2"},
+      {u"x+1=3", u"2"},
+      {u"-x=3", u"-3"},
+      {u"3x=1.5", u"1 / 2"},
+      {u"x/3=1/9", u"333 / 1000"},
+      {u"0.5x=-1", u"-2"},
+      {u"x/2=-5/8", u"-41 / 4"},
+      {u"x/4=0.3125", u"41 / 4"},
   };
   for (const Row& r : rows)
     EXPECT_EQ(ToUtf8(SolveLinear(r.equation).LinearText), ToUtf8(r.text)) << ToUtf8(r.equation);
@@ -40,11 +49,11 @@ TEST(ParseInequality, BoundsAndOperators) {
     const char16_t* resultOp;
     const char16_t* bound;
   } rows[] = {
-      {u"-2x>4", u">", u"<", u"-2"},      {u"2x >= 1", u">=", u">=", u"1/2"},
-      {u"3x<>6", u"<>", u"<>", u"2"},     {u"-3x<>6", u"<>", u"", u"-2"},
-      {u"-x<=-1", u"<=", u">=", u"1"},    {u"0x>-1", u">", u"", u"R"},
-      {u"0x>=0", u">=", u"", u"R"},       {u"0x<0", u"<", u"", u"K"},
-      {u"0x<1", u"<", u"", u"R"},        {u"0x<>1", u"<>", u"", u""},
+      {u"-2x>4", u">", u"<", u"-2"},   {u"2x >= 1", u">=", u">=", u"1/2"},
+      {u"3x<>6", u"<>", u"<>", u"2"},  {u"-3x<>6", u"<>", u"", u"-2"},
+      {u"-x<=-1", u"<=", u">=", u"1"}, {u"0x>-1", u">", u"", u"R"},
+      {u"0x>=0", u">=", u"", u"R"},    {u"0x<0", u"<", u"", u"K"},
+      {u"0x<1", u"<", u"", u"R"},      {u"0x<>1", u"<>", u"", u""},
   };
   for (const Row& r : rows) {
     std::optional<InequalitySolution> s = ParseInequality(r.text, prompt);

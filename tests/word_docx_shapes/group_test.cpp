@@ -28,7 +28,10 @@ TEST(ShapeGroups, NamedShapesBecomeOneGroupAtTheFirstOnesPlace) {
   shapes->AddLine(180, 260, 120, 210)->SetName(u"区间：2_lumenpad");
   const pugi::xml_node firstRun = word::docx::drawing::RunOf(FindAnchors(host.document)[0]);
 
+  shapes->Item(u"区间：2_lumenpad")->Select();
   auto group = shapes->Range({u"区间：1_lumenpad", u"区间：2_lumenpad"})->Group();
+  // A selected member hands the selection on to its group.
+  EXPECT_EQ(host.selected, std::vector{FindAnchors(host.document)[0]});
   EXPECT_EQ(group->Type(), word::msoGroup);
   EXPECT_EQ(group->Name(), u"Group 4");
   EXPECT_EQ(shapes->Count(), 2);
@@ -107,6 +110,7 @@ TEST(ShapeGroups, SelectAndDelete) {
   EXPECT_EQ(range->Count(), 2);
   range->Item(1)->Delete();
   EXPECT_EQ(shapes->Count(), 1);
+  EXPECT_EQ(host.selected.size(), 1u);
   EXPECT_EQ(host.CaretParagraph().select_nodes("w:r").size(), 2u);
   EXPECT_THROW(range->Item(3), word::ComError);
 }
@@ -131,6 +135,7 @@ TEST(ShapeGroups, ShapesOfAWordFileAreFoundAndKept) {
   EXPECT_EQ(shapes->Item(1)->Name(), u"Rectangle 1");
   EXPECT_EQ(shapes->Item(u"Group 5")->Type(), word::msoGroup);
   EXPECT_EQ(shapes->Item(u"Text Box 2")->Type(), word::msoTextBox);
+  EXPECT_TRUE(shapes->Item(u"Rectangle 1")->Fill().Visible());  // filled by its theme style
   EXPECT_FLOAT_EQ(shapes->Item(u"Group 5")->Width(), 542925 / 12700.0f);
 
   const auto anchors = FindAnchors(host.document);

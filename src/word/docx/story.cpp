@@ -172,9 +172,9 @@ pugi::xml_node Story::InsertInline(long pos, const pugi::xml_node& prototype, lo
   pos = std::clamp(pos, 0L, std::max(0L, ix.length - 1));
   pugi::xml_node placed;
   if (ix.length == 0) {
-    pugi::xml_node p = container_.last_child() && Is(container_.last_child(), "w:sectPr")
-                           ? container_.insert_child_before("w:p", container_.last_child())
-                           : container_.append_child("w:p");
+    pugi::xml_node sectPr = container_.child("w:sectPr");
+    pugi::xml_node p = sectPr ? container_.insert_child_before("w:p", sectPr)
+                              : container_.append_child("w:p");
     placed = p.append_copy(prototype);
   } else if (pos > 0 && !IsMark(ix.segments[ix.SegmentAt(pos - 1)].kind)) {
     pugi::xml_node after = SplitAfter(pos - 1);

@@ -1,7 +1,6 @@
 #include "word/docx/drawing/anchor.h"
 
 #include <cstdlib>
-#include <cstring>
 #include <string>
 
 #include "runtime/utf8.h"
@@ -10,10 +9,6 @@
 namespace word::docx::drawing {
 
 namespace {
-
-bool Is(pugi::xml_node node, const char* name) {
-  return std::strcmp(node.name(), name) == 0;
-}
 
 void CollectAnchors(pugi::xml_node node, std::vector<pugi::xml_node>& out) {
   for (pugi::xml_node child : node.children()) {

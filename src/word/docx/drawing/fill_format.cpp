@@ -1,4 +1,3 @@
-#include <cstring>
 #include <string>
 
 #include "word/docx/drawing/color_xml.h"
@@ -12,14 +11,15 @@ namespace {
 
 constexpr long kWhite = 0xFFFFFF;
 
-bool Is(pugi::xml_node node, const char* name) {
-  return std::strcmp(node.name(), name) == 0;
-}
-
 // The element that holds the fore colour of a fill: the solid colour, or the
 // foreground of a pattern.
 pugi::xml_node ForeHolder(pugi::xml_node fill) {
   return Is(fill, "a:pattFill") ? fill.child("a:fgClr") : fill;
+}
+
+// A shape without a fill of its own may be filled by its theme style.
+bool StyleFills(pugi::xml_node spPr) {
+  return spPr.parent().child("wps:style").child("a:fillRef").attribute("idx").as_int() > 0;
 }
 
 pugi::xml_node NewSolid(pugi::xml_node spPr, long bgr, float transparency) {
@@ -50,15 +50,17 @@ void DocxFillFormat::EditFills(
 }
 
 bool DocxFillFormat::Visible() const {
-  const pugi::xml_node fill = FirstFill();
-  return fill && !Is(fill, "a:noFill");
+  const auto all = shapes_.ShapeProperties();
+  if (all.empty()) return false;
+  const pugi::xml_node fill = FirstChildOf(all.front(), kFillChoices);
+  return fill ? !Is(fill, "a:noFill") : StyleFills(all.front());
 }
 
 void DocxFillFormat::SetVisible(bool visible) {
   EditFills([visible](pugi::xml_node spPr, pugi::xml_node fill) {
     if (!visible) {
       ReplaceChoice(spPr, kFillChoices, "a:noFill", kShapePropertiesOrder);
-    } else if (!fill || Is(fill, "a:noFill")) {
+    } else if (fill ? Is(fill, "a:noFill") : !StyleFills(spPr)) {
       NewSolid(spPr, kWhite, 0);
     }
   });

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cstring>
 #include <limits>
 
 #include "word/docx/drawing/anchor.h"
@@ -11,10 +10,6 @@
 namespace word::docx::drawing {
 
 namespace {
-
-bool Is(pugi::xml_node node, const char* name) {
-  return std::strcmp(node.name(), name) == 0;
-}
 
 Frame FrameOf(pugi::xml_node anchor) {
   return {OffsetOf(anchor, Axis::kHorizontal), OffsetOf(anchor, Axis::kVertical),
@@ -41,10 +36,11 @@ std::string GroupXml(const Frame& bounds) {
          cy + "\"/></a:xfrm></wpg:grpSpPr></wpg:wgp>";
 }
 
-// Copies the member's shape into the group, placed relative to the group's
-// corner; a member group becomes a nested wpg:grpSp.
+// Moves the member's shape into the group, placed relative to the group's
+// corner; a member group becomes a nested wpg:grpSp. Moved, not copied, the
+// nodes stay the same, and so do the text box stories the engine holds.
 void AddMember(pugi::xml_node group, pugi::xml_node anchor, const Frame& bounds) {
-  pugi::xml_node shape = group.append_copy(GraphicOf(anchor));
+  pugi::xml_node shape = group.append_move(GraphicOf(anchor));
   const bool nested = Is(shape, "wpg:wgp");
   if (nested) shape.set_name("wpg:grpSp");
   const char* nonVisualName = nested ? "wpg:cNvPr" : "wps:cNvPr";
@@ -103,6 +99,7 @@ pugi::xml_node GroupAnchors(DocxHost& host, const std::vector<pugi::xml_node>& a
   DropFallback(anchor);
   first.parent().remove_child(first);
   for (size_t i = 1; i < anchors.size(); ++i) RemoveAnchor(anchors[i]);
+  ReplaceInSelection(host, anchors, anchor);
   host.MarkChanged();
   return anchor;
 }

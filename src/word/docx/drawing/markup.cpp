@@ -1,7 +1,6 @@
 #include "word/docx/drawing/markup.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 #include "runtime/utf8.h"

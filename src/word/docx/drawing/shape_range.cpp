@@ -108,6 +108,7 @@ void AnchorRange::SetRelativeVerticalPosition(WdRelativeVerticalPosition to) {
 void AnchorRange::Delete() {
   shapes_.First();
   for (pugi::xml_node anchor : shapes_.Anchors()) RemoveAnchor(anchor);
+  ReplaceInSelection(shapes_.Host(), shapes_.Anchors());
   shapes_.Reset({});
   shapes_.Host().MarkChanged();
 }

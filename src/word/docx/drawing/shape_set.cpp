@@ -1,5 +1,7 @@
 #include "word/docx/drawing/shape_set.h"
 
+#include <algorithm>
+
 #include "word/docx/drawing/anchor.h"
 
 namespace word::docx::drawing {
@@ -35,6 +37,18 @@ std::vector<pugi::xml_node> ShapeSet::BodyProperties() const {
 void ShapeSet::Changed() const {
   for (pugi::xml_node anchor : anchors_) DropFallback(anchor);
   host_.MarkChanged();
+}
+
+void ReplaceInSelection(DocxHost& host, const std::vector<pugi::xml_node>& removed,
+                        pugi::xml_node replacement) {
+  std::vector<pugi::xml_node> selected = host.SelectedShapes();
+  const auto isRemoved = [&removed](pugi::xml_node anchor) {
+    return std::find(removed.begin(), removed.end(), anchor) != removed.end();
+  };
+  if (std::none_of(selected.begin(), selected.end(), isRemoved)) return;
+  std::erase_if(selected, isRemoved);
+  if (replacement) selected.push_back(replacement);
+  host.SelectShapes(selected, true);
 }
 
 }  // namespace word::docx::drawing

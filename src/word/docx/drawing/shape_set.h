@@ -32,4 +32,9 @@ class ShapeSet {
   std::vector<pugi::xml_node> anchors_;
 };
 
+// Anchors taken out of the document leave the selection; when any of them
+// was selected, their replacement (a new group) is selected instead.
+void ReplaceInSelection(DocxHost& host, const std::vector<pugi::xml_node>& removed,
+                        pugi::xml_node replacement = {});
+
 }  // namespace word::docx::drawing

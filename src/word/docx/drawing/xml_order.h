@@ -2,6 +2,7 @@
 // Children kept in the order the schemas prescribe: Word asks to repair a file
 // whose elements stand out of order, so every insertion goes through here.
 
+#include <cstring>
 #include <initializer_list>
 #include <string_view>
 
@@ -10,6 +11,10 @@
 namespace word::docx::drawing {
 
 using Order = std::initializer_list<std::string_view>;
+
+inline bool Is(pugi::xml_node node, const char* name) {
+  return std::strcmp(node.name(), name) == 0;
+}
 
 // The child called name, created at its place in order when missing.
 pugi::xml_node EnsureChild(pugi::xml_node parent, std::string_view name, Order order);

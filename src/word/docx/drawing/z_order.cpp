@@ -1,7 +1,6 @@
 #include "word/docx/drawing/z_order.h"
 
 #include <algorithm>
-#include <cstring>
 #include <vector>
 
 #include "word/docx/drawing/anchor.h"
@@ -114,11 +113,10 @@ void ApplyZOrder(const pugi::xml_document& document, pugi::xml_node anchor, MsoZ
 
 WdWrapType WrapTypeOf(pugi::xml_node anchor) {
   const pugi::xml_node wrap = FirstChildOf(anchor, kWraps);
-  const char* name = wrap.name();
-  if (std::strcmp(name, "wp:wrapSquare") == 0) return wdWrapSquare;
-  if (std::strcmp(name, "wp:wrapTight") == 0) return wdWrapTight;
-  if (std::strcmp(name, "wp:wrapThrough") == 0) return wdWrapThrough;
-  if (std::strcmp(name, "wp:wrapTopAndBottom") == 0) return wdWrapTopBottom;
+  if (Is(wrap, "wp:wrapSquare")) return wdWrapSquare;
+  if (Is(wrap, "wp:wrapTight")) return wdWrapTight;
+  if (Is(wrap, "wp:wrapThrough")) return wdWrapThrough;
+  if (Is(wrap, "wp:wrapTopAndBottom")) return wdWrapTopBottom;
   return anchor.attribute("behindDoc").as_bool() ? wdWrapBehind : wdWrapNone;
 }
 

@@ -1,0 +1,85 @@
+// gs on a real .docx through the document engine: the field code, its
+// shrunk scripts, the font pass and the splitting at ";".
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <filesystem>
+
+#include "formula/commands.h"
+#include "formula/latex_to_omml.h"
+#include "runtime/recording_prompt.h"
+#include "word/docx/docx_application.h"
+
+namespace lp {
+namespace {
+
+class DocxGs : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    path = std::filesystem::temp_directory_path() /
+           ("lp_formula_gs_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
+            ::testing::UnitTest::GetInstance()->current_test_info()->name() + ".docx");
+    std::filesystem::remove(path);
+    app = word::docx::OpenDocx(path);
+    app->SetTexConverter([](const std::u16string& tex) { return LatexToOmml(tex); });
+    session = std::make_unique<Session>(*app, prompt);
+    session->config.EmbellishFormula = -1;
+  }
+  void TearDown() override { std::filesystem::remove(path); }
+
+  void Gs(const std::u16string& text) {
+    word::Selection& selection = app->Selection();
+    long start = selection.Range()->Start();
+    selection.TypeText(text);
+    app->ActiveDocument().Range(start, start + static_cast<long>(text.size()))->Select();
+    ASSERT_EQ(RunGs(*session, DriverControl::WithTimeout(std::chrono::seconds(1))),
+              GsOutcome::kDone);
+  }
+  // Codes are read as Word reads them: shown.
+  word::Fields& ShownFields() {
+    app->ActiveDocument().Content()->Fields().ToggleShowCodes();
+    return app->ActiveDocument().Fields();
+  }
+
+  std::filesystem::path path;
+  std::unique_ptr<word::docx::DocxApplication> app;
+  RecordingPrompt prompt;
+  std::unique_ptr<Session> session;
+};
+
+TEST_F(DocxGs, FieldWithShrunkScriptAndFonts) {
+  Gs(u"x^2/2");
+  word::Fields& fields = ShownFields();
+  ASSERT_EQ(fields.Count(), 1);
+  auto code = fields.Item(1)->Code();
+  EXPECT_EQ(code->Text(), u" EQ \\F(x\\S(2),2)");
+  word::Characters& chars = code->Characters();
+  auto x = chars.Item(8);
+  auto script = chars.Item(12);
+  auto plain = chars.Item(15);
+  ASSERT_EQ(x->Text(), u"x");
+  ASSERT_EQ(script->Text(), u"2");
+  ASSERT_EQ(plain->Text(), u"2");
+  EXPECT_EQ(script->Font().Size(), std::floor(0.7f * plain->Font().Size()));
+  EXPECT_EQ(x->Font().Name(), u"Times New Roman");
+  EXPECT_EQ(x->Font().Italic(), word::wdTrue);
+  EXPECT_EQ(plain->Font().Italic(), word::wdFalse);
+}
+
+TEST_F(DocxGs, SemicolonSplitsIntoFieldsWithBlanks) {
+  Gs(u"a;b");
+  word::Fields& fields = ShownFields();
+  ASSERT_EQ(fields.Count(), 2);
+  EXPECT_EQ(fields.Item(1)->Code()->Text(), u" EQ a");
+  EXPECT_EQ(fields.Item(2)->Code()->Text(), u" EQ b");
+}
+
+TEST_F(DocxGs, TexRouteLeavesNativeEquation) {
+  session->config.blMathType = -1;
+  Gs(u"(a+b)/2");
+  EXPECT_EQ(app->ActiveDocument().Fields().Count(), 0);
+  EXPECT_EQ(app->ActiveDocument().Content()->Text().find(u'$'), std::u16string::npos);
+}
+
+}  // namespace
+}  // namespace lp
