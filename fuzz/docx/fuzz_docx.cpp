@@ -5,6 +5,7 @@
 
 #include "word/docx/docx_application.h"
 #include "word/docx/docx_document.h"
+#include "word/docx/selection.h"
 #include "word/docx/xml_part.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {

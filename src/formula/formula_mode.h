@@ -18,7 +18,7 @@ using FormulaGenerator =
     std::function<std::u16string(const std::u16string& text, const DriverControl& control)>;
 
 // How long one formula may take before it counts as never ending.
-constexpr std::chrono::milliseconds kFormulaTimeLimit{1000};
+constexpr std::chrono::milliseconds kFormulaTimeLimit{500};
 
 // args holds TEXT, or "-" to read one formula per line from in and write one
 // result per line; a formula past its time limit writes "error: timeout".

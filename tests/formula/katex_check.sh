@@ -9,7 +9,7 @@ tools="$here/../tools"
 out="$(mktemp)"
 config="$out.db"
 trap 'rm -f "$out" "$config"' EXIT
-"$lumenpad" --config "$config" --latex - < "$here/corpus.txt" > "$out"
+"$lumenpad" --latex - --config "$config" < "$here/corpus.txt" > "$out"
 expected=$(wc -l < "$here/corpus.txt")
 actual=$(wc -l < "$out")
 [ "$expected" = "$actual" ] || { echo "got $actual results for $expected formulas"; exit 1; }

@@ -15,14 +15,12 @@ const long kMacroNotFound = -2147352573;  // DISP_E_MEMBERNOTFOUND, as Word rais
 
 class OneDocument : public word::Documents {
  public:
-  explicit OneDocument(DocxDocument& doc) : doc_(doc) {}
   long Count() const override { return 1; }
   word::Document& Add(const Text&) override { return Refuse(); }
   word::Document& Open(const Text&) override { return Refuse(); }
 
  private:
   word::Document& Refuse() { throw ComError(4198, "命令失败：此处只能编辑一个文档。"); }
-  DocxDocument& doc_;
 };
 
 class NoAddIns : public word::AddIns {
@@ -79,7 +77,6 @@ std::string FirstBytes(const std::filesystem::path& file, size_t* size) {
 }  // namespace
 
 struct DocxApplication::Parts {
-  explicit Parts(DocxDocument& doc) : documents(doc) {}
   OneDocument documents;
   NoAddIns addIns;
   Bars bars;
@@ -90,7 +87,7 @@ struct DocxApplication::Parts {
 };
 
 DocxApplication::DocxApplication(std::unique_ptr<DocxDocument> document)
-    : document_(std::move(document)), parts_(std::make_unique<Parts>(*document_)) {}
+    : document_(std::move(document)), parts_(std::make_unique<Parts>()) {}
 
 DocxApplication::~DocxApplication() = default;
 

@@ -30,12 +30,6 @@ struct Paragraph {
   bool pageBreakBefore = false;
 };
 
-pugi::xml_node ParagraphNode(const Segment& s) {
-  pugi::xml_node n = s.node;
-  while (n && std::strcmp(n.name(), "w:p") != 0) n = n.parent();
-  return n;
-}
-
 std::vector<Paragraph> Paragraphs(const StoryIndex& ix, const StyleSheet& styles,
                                   const PageGeometry& page) {
   std::vector<Paragraph> out;

@@ -19,8 +19,7 @@ template <class Base>
 class RangeImpl : public Base, public PlaceHolder {
  public:
   const Place& GetPlace() const override { return place_; }
-  explicit RangeImpl(Place place, bool isSelection = false)
-      : place_(std::move(place)), isSelection_(isSelection) {}
+  explicit RangeImpl(Place place) : place_(std::move(place)) {}
 
   long Start() const override { return place_.Start(); }
   long End() const override { return place_.End(); }
@@ -60,7 +59,7 @@ class RangeImpl : public Base, public PlaceHolder {
     return *characters_;
   }
   word::Find& Find() override {
-    if (!find_) find_ = std::make_unique<RangeFind>(place_, isSelection_);
+    if (!find_) find_ = std::make_unique<RangeFind>(place_);
     return *find_;
   }
   void InsertAfter(const word::Text& text) override {
@@ -77,6 +76,7 @@ class RangeImpl : public Base, public PlaceHolder {
     else
       place_.span->start = place_.span->end;
   }
+  using Base::Delete;
   void Delete() override { place_.story->Delete(Start(), End()); }
   void Select() override;
   std::unique_ptr<word::Range> Duplicate() const override;
@@ -87,7 +87,6 @@ class RangeImpl : public Base, public PlaceHolder {
   }
 
   Place place_;
-  bool isSelection_;
   std::unique_ptr<RangeFont> font_;
   std::unique_ptr<RangeParagraphFormat> paragraphFormat_;
   std::unique_ptr<RangeFields> fields_;

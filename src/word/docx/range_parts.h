@@ -122,8 +122,7 @@ class RangeReplacement : public word::Replacement {
 
 class RangeFind : public word::Find {
  public:
-  // selection: Execute moves the selection rather than the range.
-  RangeFind(Place& place, bool selection) : place_(place), selection_(selection) {}
+  explicit RangeFind(Place& place) : place_(place) {}
   void ClearFormatting() override {}
   void SetText(const Text& text) override { text_ = text; }
   void SetForward(bool forward) override { forward_ = forward; }
@@ -144,7 +143,6 @@ class RangeFind : public word::Find {
   void Replace(const Hit& hit);
 
   Place& place_;
-  bool selection_;
   Text text_;
   bool forward_ = true, wildcards_ = false, matchByte_ = true, found_ = false;
   WdFindWrap wrap_ = wdFindStop;

@@ -8,7 +8,7 @@ namespace word::docx {
 
 class DocxSelection : public RangeImpl<word::Selection> {
  public:
-  explicit DocxSelection(Place place) : RangeImpl<word::Selection>(std::move(place), true) {}
+  explicit DocxSelection(Place place) : RangeImpl<word::Selection>(std::move(place)) {}
 
   // Moves the selection, possibly into another story.
   void SetPlace(Story& story, long start, long end);
