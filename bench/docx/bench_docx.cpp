@@ -27,7 +27,8 @@ void MakeDocument(const std::filesystem::path& file, int pages) {
   pugi::xml_node body = doc.DocumentXml().child("w:document").child("w:body");
   pugi::xml_node sectPr = body.child("w:sectPr");
   const char* line =
-      "已知函数f(x)=x²-2x+3，求函数在区间[0,3]上的最大值与最小值，并说明理由。解：配方得f(x)=(x-1)²+2，";
+      "已知函数f(x)=x²-2x+3，求函数在区间[0,3]上的最大值与最小值，并说明理由。解：配方得f(x)=(x-1)"
+      "²+2，";
   for (int p = 0; p < pages * 30; ++p) {
     pugi::xml_node run = body.insert_child_before("w:p", sectPr).append_child("w:r");
     run.append_child("w:t").text().set((std::to_string(p + 1) + ". " + line).c_str());
@@ -58,8 +59,8 @@ int main() {
     double step[4] = {Ms(t0, t1), Ms(t1, t2), Ms(t2, t3), Ms(t0, t3)};
     for (int i = 0; i < 4; ++i) best[i] = std::min(best[i], step[i]);
   }
-  std::printf("open %.1f ms, type %.1f ms, save %.1f ms, total %.1f ms (limit 1000 ms)\n",
-              best[0], best[1], best[2], best[3]);
+  std::printf("open %.1f ms, type %.1f ms, save %.1f ms, total %.1f ms (limit 1000 ms)\n", best[0],
+              best[1], best[2], best[3]);
   std::filesystem::remove(file);
   return best[3] < 1000 ? 0 : 1;
 }

@@ -10,7 +10,8 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   try {
-    auto package = word::docx::Package::FromBytes(std::string(reinterpret_cast<const char*>(data), size));
+    auto package =
+        word::docx::Package::FromBytes(std::string(reinterpret_cast<const char*>(data), size));
     word::docx::DocxDocument doc(std::move(package), "fuzz.docx");
     auto& sel = doc.Selection();
     sel.TypeText(u"x\ty");

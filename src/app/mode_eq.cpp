@@ -16,6 +16,8 @@ int FormulaMode(const ModeArgs& in, StoredGenerator generate) {
   return RunFormulaMode(in.args, convert, kFormulaTimeLimit, std::cin, std::cout, std::cerr);
 }
 
-int EqMode(const ModeArgs& in) { return FormulaMode(in, FormulaToEq); }
+int EqMode(const ModeArgs& in) {
+  return FormulaMode(in, FormulaToEq);
+}
 
 }  // namespace lp

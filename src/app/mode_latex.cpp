@@ -3,6 +3,8 @@
 namespace lp {
 
 // LaTeX with its placeholders restored, without the dollar signs.
-int LatexMode(const ModeArgs& in) { return FormulaMode(in, FormulaToFinishedLatex); }
+int LatexMode(const ModeArgs& in) {
+  return FormulaMode(in, FormulaToFinishedLatex);
+}
 
 }  // namespace lp

@@ -8,8 +8,6 @@
 namespace lp {
 namespace {
 
-constexpr char16_t kUnbalanced[] = u"您输入的表达式括号不匹配，请检查您的输入";
-
 // Searches each script from the selection on, wrapping, and shrinks what it
 // finds; an equal second script is found again from the first.
 void ShrinkScripts(word::Selection& selection, const std::vector<std::u16string>& scripts) {
@@ -54,7 +52,7 @@ std::vector<std::u16string> CollectScripts(const std::u16string& code) {
 void InsertFormulaAsField(Session& session, const std::u16string& text,
                           const DriverControl& control) {
   if (!BracketsBalanced(text)) {
-    session.prompt.MsgBox(kUnbalanced);
+    session.prompt.MsgBox(kUnbalancedBrackets);
     return;
   }
   std::u16string code = FormulaToEq(text, SessionFormulaSettings(session), control);
@@ -77,8 +75,7 @@ void InsertEqField(Session& session, const std::u16string& code, const DriverCon
     selection.Fields().ToggleShowCodes();
   });
   ShrinkScripts(selection, scripts);
-  if (session.config.EmbellishFormula && fieldRange)
-    RunFontPass(app, *fieldRange, greek, control);
+  if (session.config.EmbellishFormula && fieldRange) RunFontPass(app, *fieldRange, greek, control);
   IgnoringWordErrors([&] {
     if (fieldRange) fieldRange->Select();
     selection.Fields().ToggleShowCodes();

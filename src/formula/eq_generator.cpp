@@ -1,6 +1,7 @@
 #include "formula/generators.h"
 #include "formula/scanner.h"
 #include "runtime/text.h"
+#include "toolkit/chars.h"
 
 #include <algorithm>
 
@@ -9,7 +10,9 @@ namespace {
 
 using S = std::u16string;
 
-int32_t Length(const S& s) { return static_cast<int32_t>(s.size()); }
+int32_t Length(const S& s) {
+  return static_cast<int32_t>(s.size());
+}
 
 class EqGenerator {
  public:
@@ -26,18 +29,28 @@ class EqGenerator {
  private:
   S RewriteAt(const S& s, int op, int32_t pos) {
     switch (op) {
-      case 1: return Root(s, pos, 3);
-      case 2: return Root(s, pos, 1);
-      case 3: return Superscript(s, pos);
-      case 4: return Subscript(s, pos);
-      case 5: return Fraction(s, pos);
+      case 1:
+        return Root(s, pos, 3);
+      case 2:
+        return Root(s, pos, 1);
+      case 3:
+        return Superscript(s, pos);
+      case 4:
+        return Subscript(s, pos);
+      case 5:
+        return Fraction(s, pos);
       case 6:
       case 7:
-      case 8: return Arrangement(s, pos);
-      case 9: return Accent(s, pos, 2, u"\\o\\ac(\\S\\UP7(⌒),");
-      case 10: return Accent(s, pos, 2, u"\\o\\ac(\\S\\UP7(→),");
-      case 11: return EquationSystem(s, pos);
-      default: return Overline(s, pos);
+      case 8:
+        return Arrangement(s, pos);
+      case 9:
+        return Accent(s, pos, 2, u"\\o\\ac(\\S\\UP7(⌒),");
+      case 10:
+        return Accent(s, pos, 2, u"\\o\\ac(\\S\\UP7(→),");
+      case 11:
+        return EquationSystem(s, pos);
+      default:
+        return Overline(s, pos);
     }
   }
 
@@ -56,7 +69,7 @@ class EqGenerator {
     }
     S g = Group(s, at);
     S squareRoot = before + u"\\R(," + Mid(s, at + 1);
-    if (CountOf(g, u'(') >= 2) {
+    if (CountOf(g, u"(") >= 2) {
       S inner = Convert(g);
       return inner.find(u',') == S::npos ? squareRoot : before + u"\\R" + inner;
     }
@@ -66,10 +79,6 @@ class EqGenerator {
     S radicand = Mid(g, comma + 1, std::max(Length(g) - 1 - comma, 0));
     S rest = opLength == 1 ? Mid(s, at + Length(g)) : S();
     return before + u"\\R(\\S\\DO(" + index + u")," + radicand + u")" + rest;
-  }
-
-  static int32_t CountOf(const S& s, char16_t c) {
-    return static_cast<int32_t>(std::count(s.begin(), s.end(), c));
   }
 
   S Superscript(const S& s, int32_t pos) {
@@ -83,7 +92,7 @@ class EqGenerator {
   S Subscript(const S& s, int32_t pos) {
     S x = CharAt(s, pos + 1);
     if (x == u"(") return Left(s, pos - 1) + u"\\S\\DO(" + Mid(s, pos + 2);
-    if (!x.empty() && IsFormulaDigit(x[0])) x = NumberRun(s, pos + 1, false);
+    if (!x.empty() && IsDigitChar(x[0])) x = NumberRun(s, pos + 1, false);
     return Replace(s, u"_" + x, u"\\S\\DO(" + x + u")");
   }
 
@@ -165,9 +174,9 @@ MaskedGreek MaskGreek(const S& text) {
 }
 
 const std::vector<std::pair<S, S>>& WideSigns() {
-  static const std::vector<std::pair<S, S>> signs = {
-      {u">=", u"≥"}, {u"<=", u"≤"}, {u"+", u"＋"}, {u"-", u"－"},
-      {u"=", u"＝"}, {u">", u"＞"}, {u"<", u"＜"}};
+  static const std::vector<std::pair<S, S>> signs = {{u">=", u"≥"}, {u"<=", u"≤"}, {u"+", u"＋"},
+                                                     {u"-", u"－"}, {u"=", u"＝"}, {u">", u"＞"},
+                                                     {u"<", u"＜"}};
   return signs;
 }
 

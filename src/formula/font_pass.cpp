@@ -2,6 +2,7 @@
 
 #include "formula/scanner.h"
 #include "runtime/text.h"
+#include "toolkit/chars.h"
 
 namespace lp {
 namespace {
@@ -61,9 +62,9 @@ class FontPass {
       Merge(chars, i, u"±", {u"宋体", word::wdFalse});
     } else if (u == u'－' && next == u"＋") {
       Merge(chars, i, std::u16string(1, char16_t(0xF06D)), {u"Euclid Extra", word::wdFalse});
-    } else if (IsFormulaDigit(u)) {
+    } else if (IsDigitChar(u)) {
       Format(*c, {u"Times New Roman", word::wdFalse});
-    } else if (IsFormulaLetter(u)) {
+    } else if (IsLetterChar(u)) {
       Format(*c, {u"Times New Roman", word::wdTrue});
       if (LCase(ch + next) == u"pi") Merge(chars, i, u"p", {u"Symbol", word::wdTrue});
     }

@@ -17,12 +17,13 @@
 namespace lp {
 namespace {
 
-constexpr char16_t kTimedOut[] = u"公式转换超时，文档没有改动。";
 // Without a screen nobody can close the dialog: a formula that never ends
 // gives up after this long.
 constexpr std::chrono::seconds kHeadlessLimit{5};
 
-QString Q(const std::u16string& s) { return QString::fromStdU16String(s); }
+QString Q(const std::u16string& s) {
+  return QString::fromStdU16String(s);
+}
 
 bool Headless() {
   const QString platform = QGuiApplication::platformName();
@@ -110,7 +111,7 @@ void frmGS::cmdOK_Click() {
   close();
 }
 
-bool frmGS::Convert() {
+void frmGS::Convert() {
   const std::u16string text = StrConvNarrow(txtGS->text().toStdU16String());
   DriverControl control;
   control.prompt = &session_.prompt;
@@ -120,20 +121,17 @@ bool frmGS::Convert() {
   };
   if (Headless()) control.deadline = std::chrono::steady_clock::now() + kHeadlessLimit;
   converting_ = true;
-  bool done = false;
   try {
     if (session_.config.blMathType)
       InsertFormulaAsMathType(session_, text, control);
     else
       InsertFormulaAsField(session_, text, control);
-    done = true;
   } catch (const FormulaAborted& e) {
-    if (e.reason() == FormulaAborted::kTimeout) session_.prompt.MsgBox(kTimedOut);
+    if (e.reason() == FormulaAborted::kTimeout) session_.prompt.MsgBox(kFormulaTimedOut);
   } catch (const std::exception& e) {
     ReportError(session_.prompt, u"cmdOK_Click", e);
   }
   converting_ = false;
-  return done;
 }
 
 }  // namespace lp

@@ -24,7 +24,7 @@ class frmGS : public ui::Form {
 
  private:
   void cmdOK_Click();
-  bool Convert();
+  void Convert();
 
   QLineEdit* txtGS;  // owned by the dialog
   QLabel* Image1;

@@ -1,5 +1,4 @@
 #include <optional>
-#include <variant>
 
 #include "formula/commands.h"
 #include "formula/insert.h"
@@ -9,9 +8,6 @@
 
 namespace lp {
 namespace {
-
-constexpr char16_t kUnbalanced[] = u"您输入的表达式括号不匹配，请检查您的输入";
-constexpr char16_t kTimedOut[] = u"公式转换超时，文档没有改动。";
 
 // What each piece becomes: an EQ code, or nothing when its brackets don't
 // match.
@@ -35,7 +31,7 @@ void InsertCodes(Session& session, const EqCodes& codes, bool blankAfterEach) {
     if (code)
       InsertEqField(session, *code);
     else
-      session.prompt.MsgBox(kUnbalanced);
+      session.prompt.MsgBox(kUnbalancedBrackets);
     if (!blankAfterEach) continue;
     selection.MoveRight(word::wdCharacter, 1);
     selection.TypeText(u" ");
@@ -44,7 +40,9 @@ void InsertCodes(Session& session, const EqCodes& codes, bool blankAfterEach) {
 
 }  // namespace
 
-GsOutcome RunGs(Session& session, const DriverControl& control) {
+GsOutcome RunGs(Session& session, const DriverControl& runControl) {
+  DriverControl control = runControl;
+  if (!control.prompt) control.prompt = &session.prompt;
   word::Selection& selection = session.WordApp->Selection();
   std::u16string selected = selection.Range()->Text();
   if (Len(selected) < 2) return GsOutcome::kShowDialog;
@@ -61,7 +59,7 @@ GsOutcome RunGs(Session& session, const DriverControl& control) {
     else
       codes = ConvertPieces(several ? SplitText(text, u';') : std::vector{text}, settings, control);
   } catch (const FormulaAborted&) {
-    session.prompt.MsgBox(kTimedOut);
+    session.prompt.MsgBox(kFormulaTimedOut);
     return GsOutcome::kTimedOut;
   }
   range->SetText(text);

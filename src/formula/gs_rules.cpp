@@ -30,7 +30,8 @@ const std::array<GsRule, 8> kRules = {{
      {u"排列、组合录入规则： ", u"排列：A(n,m)  或 P(n,m)", u"组合：C(n,m)",
       u"注意：A,P,C均要用大写"},
      u"pl.png"},
-    {u"方程组", {u"方程组录入规则： ", u"fcz(方程1,方程2,....)", u"注意：方程之间逗号隔开"},
+    {u"方程组",
+     {u"方程组录入规则： ", u"fcz(方程1,方程2,....)", u"注意：方程之间逗号隔开"},
      u"fcz.png"},
     {u"拔",
      {u"上划线录入规则： ", u"标准形式：", u"(字母)bar", u"简化形式：", u"字母bar",
@@ -52,19 +53,28 @@ std::u16string GsRuleText(const GsRule& rule) {
 
 int GsRuleForKey(char16_t key) {
   switch (key) {
-    case u'/': return 1;
+    case u'/':
+      return 1;
     case u's':
-    case u'g': return 2;
-    case u'^': return 3;
-    case u'_': return 4;
+    case u'g':
+      return 2;
+    case u'^':
+      return 3;
+    case u'_':
+      return 4;
     case u'h':
-    case u'x': return 5;
+    case u'x':
+      return 5;
     case u'A':
     case u'P':
-    case u'C': return 6;
-    case u'f': return 7;
-    case u'b': return 8;
-    default: return 0;
+    case u'C':
+      return 6;
+    case u'f':
+      return 7;
+    case u'b':
+      return 8;
+    default:
+      return 0;
   }
 }
 

@@ -12,6 +12,11 @@
 
 namespace lp {
 
+// What the teacher is told when a formula's brackets don't match.
+constexpr char16_t kUnbalancedBrackets[] = u"您输入的表达式括号不匹配，请检查您的输入";
+// What the teacher is told when a formula does not finish in time.
+constexpr char16_t kFormulaTimedOut[] = u"公式转换超时，文档没有改动。";
+
 FormulaSettings SessionFormulaSettings(const Session& session);
 
 // The scripts of an EQ code, in order, each with its head and group, as the

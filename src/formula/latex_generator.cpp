@@ -5,6 +5,7 @@
 #include "formula/generators.h"
 #include "formula/scanner.h"
 #include "runtime/text.h"
+#include "toolkit/chars.h"
 
 namespace lp {
 namespace {
@@ -14,23 +15,23 @@ using S = std::u16string;
 // The Symbol font's keyboard layout: the key x of "@x" and its TeX name.
 // F, J, V, v, o and O are mapped as the layout has them.
 const std::pair<char16_t, const char16_t*> kGreek[] = {
-    {u'a', u" \\alpha "},   {u'A', u" \\Alpha "},   {u'b', u" \\beta "},
-    {u'B', u" \\Beta "},    {u'c', u" \\chi "},     {u'C', u" \\Chi "},
-    {u'd', u" \\delta "},   {u'D', u" \\Delta "},   {u'e', u" \\varepsilon "},
-    {u'E', u" \\Epsilon "}, {u'f', u" \\varphi "},  {u'F', u" \\vartheta "},
-    {u'g', u" \\gamma "},   {u'G', u" \\Gamma "},   {u'h', u" \\eta "},
-    {u'H', u" \\Eta "},     {u'i', u" \\iota "},    {u'I', u" \\Iota "},
-    {u'j', u" \\phi "},     {u'J', u" \\Phi "},     {u'k', u" \\kappa "},
-    {u'K', u" \\Kappa "},   {u'l', u" \\lambda "},  {u'L', u" \\Lambda "},
-    {u'm', u" \\mu "},      {u'M', u" \\Mu "},      {u'n', u" \\nu "},
-    {u'N', u" \\Nu "},      {u'o', u" o "},         {u'O', u" {\\mathrm O} "},
-    {u'p', u" \\pi "},      {u'P', u" \\Pi "},      {u'q', u" \\theta "},
-    {u'Q', u" \\Theta "},   {u'r', u" \\rho "},     {u'R', u" \\Rho "},
-    {u's', u" \\sigma "},   {u'S', u" \\Sigma "},   {u't', u" \\tau "},
-    {u'T', u" \\Tau "},     {u'u', u" \\upsilon "}, {u'U', u" \\Upsilon "},
+    {u'a', u" \\alpha "},   {u'A', u" \\Alpha "},    {u'b', u" \\beta "},
+    {u'B', u" \\Beta "},    {u'c', u" \\chi "},      {u'C', u" \\Chi "},
+    {u'd', u" \\delta "},   {u'D', u" \\Delta "},    {u'e', u" \\varepsilon "},
+    {u'E', u" \\Epsilon "}, {u'f', u" \\varphi "},   {u'F', u" \\vartheta "},
+    {u'g', u" \\gamma "},   {u'G', u" \\Gamma "},    {u'h', u" \\eta "},
+    {u'H', u" \\Eta "},     {u'i', u" \\iota "},     {u'I', u" \\Iota "},
+    {u'j', u" \\phi "},     {u'J', u" \\Phi "},      {u'k', u" \\kappa "},
+    {u'K', u" \\Kappa "},   {u'l', u" \\lambda "},   {u'L', u" \\Lambda "},
+    {u'm', u" \\mu "},      {u'M', u" \\Mu "},       {u'n', u" \\nu "},
+    {u'N', u" \\Nu "},      {u'o', u" o "},          {u'O', u" {\\mathrm O} "},
+    {u'p', u" \\pi "},      {u'P', u" \\Pi "},       {u'q', u" \\theta "},
+    {u'Q', u" \\Theta "},   {u'r', u" \\rho "},      {u'R', u" \\Rho "},
+    {u's', u" \\sigma "},   {u'S', u" \\Sigma "},    {u't', u" \\tau "},
+    {u'T', u" \\Tau "},     {u'u', u" \\upsilon "},  {u'U', u" \\Upsilon "},
     {u'v', u" \\varpi "},   {u'V', u" \\varsigma "}, {u'w', u" \\omega "},
-    {u'W', u" \\Omega "},   {u'x', u" \\xi "},      {u'X', u" \\Xi "},
-    {u'y', u" \\psi "},     {u'Y', u" \\Psi "},     {u'z', u" \\zeta "},
+    {u'W', u" \\Omega "},   {u'x', u" \\xi "},       {u'X', u" \\Xi "},
+    {u'y', u" \\psi "},     {u'Y', u" \\Psi "},      {u'z', u" \\zeta "},
     {u'Z', u" \\Zeta "},
 };
 
@@ -67,18 +68,28 @@ class LatexGenerator {
  private:
   S RewriteAt(const S& s, int op, int32_t pos) {
     switch (op) {
-      case 1: return Root(s, pos, 3);
-      case 2: return Root(s, pos, 1);
-      case 3: return Script(s, pos, u"^");
-      case 4: return Script(s, pos, u"_");
-      case 5: return Fraction(s, pos);
+      case 1:
+        return Root(s, pos, 3);
+      case 2:
+        return Root(s, pos, 1);
+      case 3:
+        return Script(s, pos, u"^");
+      case 4:
+        return Script(s, pos, u"_");
+      case 5:
+        return Fraction(s, pos);
       case 6:
       case 7:
-      case 8: return Arrangement(s, pos);
-      case 9: return s;  // no arc in TeX: the driver meets hu forever
-      case 10: return Vector(s, pos);
-      case 11: return EquationSystem(s, pos);
-      default: return Overline(s, pos);
+      case 8:
+        return Arrangement(s, pos);
+      case 9:
+        return s;  // no arc in TeX: the driver meets hu forever
+      case 10:
+        return Vector(s, pos);
+      case 11:
+        return EquationSystem(s, pos);
+      default:
+        return Overline(s, pos);
     }
   }
 
@@ -96,7 +107,7 @@ class LatexGenerator {
     }
     S g = Group(s, at);
     S rest = Mid(s, at + static_cast<int32_t>(g.size()));
-    S inner = GroupInside(std::count(g.begin(), g.end(), u'(') >= 2 ? Convert(g) : g);
+    S inner = GroupInside(CountOf(g, u"(") >= 2 ? Convert(g) : g);
     S mark = marks_.NewPlaceholder(u"\\sqrt");
     int32_t comma = InStr(inner, u",");
     if (comma == 0) return before + mark + u"{" + inner + u"}" + rest;
@@ -117,7 +128,8 @@ class LatexGenerator {
     S rawR = NextGroup(s, pos + 1, control_.prompt);
     S l = StripOuterBrackets(rawL);
     S r = StripOuterBrackets(rawR);
-    S target = settings_.blFS ? u"\\frac{" + r + u"}{" + l + u"}" : u"\\frac{" + l + u"}{" + r + u"}";
+    S target =
+        settings_.blFS ? u"\\frac{" + r + u"}{" + l + u"}" : u"\\frac{" + l + u"}{" + r + u"}";
     return Replace(s, rawL + u"/" + rawR, target);
   }
 
@@ -157,9 +169,11 @@ class LatexGenerator {
   }
 
   static S FinalSigns(S s) {
-    static const std::pair<const char16_t*, const char16_t*> signs[] = {
-        {u">=", u" \\ge "}, {u"<=", u" \\le "}, {u"<>", u" \\ne "},
-        {u"+-", u" \\pm "}, {u"-+", u" \\mp "}};
+    static const std::pair<const char16_t*, const char16_t*> signs[] = {{u">=", u" \\ge "},
+                                                                        {u"<=", u" \\le "},
+                                                                        {u"<>", u" \\ne "},
+                                                                        {u"+-", u" \\pm "},
+                                                                        {u"-+", u" \\mp "}};
     for (const auto& [from, to] : signs) s = Replace(s, from, to);
     return s;
   }

@@ -17,21 +17,21 @@ struct BadTex : std::runtime_error {
 
 const std::map<std::u16string, std::u16string>& Symbols() {
   static const std::map<std::u16string, std::u16string> symbols = {
-      {u"alpha", u"α"},   {u"beta", u"β"},     {u"chi", u"χ"},        {u"delta", u"δ"},
-      {u"varepsilon", u"ε"}, {u"epsilon", u"ϵ"}, {u"varphi", u"φ"},   {u"vartheta", u"ϑ"},
-      {u"gamma", u"γ"},   {u"eta", u"η"},      {u"iota", u"ι"},       {u"phi", u"ϕ"},
-      {u"kappa", u"κ"},   {u"lambda", u"λ"},   {u"mu", u"μ"},         {u"nu", u"ν"},
-      {u"pi", u"π"},      {u"theta", u"θ"},    {u"rho", u"ρ"},        {u"sigma", u"σ"},
-      {u"tau", u"τ"},     {u"upsilon", u"υ"},  {u"varpi", u"ϖ"},      {u"varsigma", u"ς"},
-      {u"omega", u"ω"},   {u"xi", u"ξ"},       {u"psi", u"ψ"},        {u"zeta", u"ζ"},
-      {u"Alpha", u"Α"},   {u"Beta", u"Β"},     {u"Chi", u"Χ"},        {u"Delta", u"Δ"},
-      {u"Epsilon", u"Ε"}, {u"Gamma", u"Γ"},    {u"Eta", u"Η"},        {u"Iota", u"Ι"},
-      {u"Phi", u"Φ"},     {u"Kappa", u"Κ"},    {u"Lambda", u"Λ"},     {u"Mu", u"Μ"},
-      {u"Nu", u"Ν"},      {u"Pi", u"Π"},       {u"Theta", u"Θ"},      {u"Rho", u"Ρ"},
-      {u"Sigma", u"Σ"},   {u"Tau", u"Τ"},      {u"Upsilon", u"Υ"},    {u"Omega", u"Ω"},
-      {u"Xi", u"Ξ"},      {u"Psi", u"Ψ"},      {u"Zeta", u"Ζ"},       {u"ge", u"≥"},
-      {u"le", u"≤"},      {u"ne", u"≠"},       {u"pm", u"±"},         {u"mp", u"∓"},
-      {u"{", u"{"},       {u"}", u"}"},        {u",", u" "},          {u" ", u" "},
+      {u"alpha", u"α"},      {u"beta", u"β"},    {u"chi", u"χ"},     {u"delta", u"δ"},
+      {u"varepsilon", u"ε"}, {u"epsilon", u"ϵ"}, {u"varphi", u"φ"},  {u"vartheta", u"ϑ"},
+      {u"gamma", u"γ"},      {u"eta", u"η"},     {u"iota", u"ι"},    {u"phi", u"ϕ"},
+      {u"kappa", u"κ"},      {u"lambda", u"λ"},  {u"mu", u"μ"},      {u"nu", u"ν"},
+      {u"pi", u"π"},         {u"theta", u"θ"},   {u"rho", u"ρ"},     {u"sigma", u"σ"},
+      {u"tau", u"τ"},        {u"upsilon", u"υ"}, {u"varpi", u"ϖ"},   {u"varsigma", u"ς"},
+      {u"omega", u"ω"},      {u"xi", u"ξ"},      {u"psi", u"ψ"},     {u"zeta", u"ζ"},
+      {u"Alpha", u"Α"},      {u"Beta", u"Β"},    {u"Chi", u"Χ"},     {u"Delta", u"Δ"},
+      {u"Epsilon", u"Ε"},    {u"Gamma", u"Γ"},   {u"Eta", u"Η"},     {u"Iota", u"Ι"},
+      {u"Phi", u"Φ"},        {u"Kappa", u"Κ"},   {u"Lambda", u"Λ"},  {u"Mu", u"Μ"},
+      {u"Nu", u"Ν"},         {u"Pi", u"Π"},      {u"Theta", u"Θ"},   {u"Rho", u"Ρ"},
+      {u"Sigma", u"Σ"},      {u"Tau", u"Τ"},     {u"Upsilon", u"Υ"}, {u"Omega", u"Ω"},
+      {u"Xi", u"Ξ"},         {u"Psi", u"Ψ"},     {u"Zeta", u"Ζ"},    {u"ge", u"≥"},
+      {u"le", u"≤"},         {u"ne", u"≠"},      {u"pm", u"±"},      {u"mp", u"∓"},
+      {u"{", u"{"},          {u"}", u"}"},       {u",", u" "},       {u" ", u" "},
   };
   return symbols;
 }
@@ -84,7 +84,9 @@ class Parser {
   void SkipBlanks() {
     while (!AtEnd() && (Peek() == u' ' || Peek() == u'&')) ++pos_;
   }
-  bool LooksAt(const std::u16string& word) const { return tex_.compare(pos_, word.size(), word) == 0; }
+  bool LooksAt(const std::u16string& word) const {
+    return tex_.compare(pos_, word.size(), word) == 0;
+  }
 
   // Items up to a closing brace, a row break, \end or \right.
   std::vector<Xml> Sequence() {
@@ -162,7 +164,8 @@ class Parser {
     if (name == u"overline")
       return Wrap("bar", "<m:barPr><m:pos m:val=\"top\"/></m:barPr>" + Wrap("e", Argument()));
     if (name == u"vec")
-      return Wrap("acc", "<m:accPr><m:chr m:val=\"\xE2\x83\x97\"/></m:accPr>" + Wrap("e", Argument()));
+      return Wrap("acc",
+                  "<m:accPr><m:chr m:val=\"\xE2\x83\x97\"/></m:accPr>" + Wrap("e", Argument()));
     if (name == u"mathrm") return Upright();
     if (name == u"left") return Delimited();
     if (name == u"begin") return Aligned();
@@ -174,7 +177,8 @@ class Parser {
   Xml Root() {
     SkipBlanks();
     if (Peek() != u'[')
-      return Wrap("rad", "<m:radPr><m:degHide m:val=\"1\"/></m:radPr><m:deg/>" + Wrap("e", Argument()));
+      return Wrap("rad",
+                  "<m:radPr><m:degHide m:val=\"1\"/></m:radPr><m:deg/>" + Wrap("e", Argument()));
     ++pos_;
     std::vector<Xml> degree;
     for (SkipBlanks(); Peek() != u']'; SkipBlanks()) {

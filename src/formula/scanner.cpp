@@ -5,6 +5,7 @@
 #include "formula/driver.h"
 #include "runtime/prompt.h"
 #include "runtime/text.h"
+#include "toolkit/chars.h"
 
 namespace lp {
 namespace {
@@ -32,30 +33,43 @@ std::u16string Run(const std::u16string& text, int32_t pos, bool backward, Test 
 
 char16_t Partner(char16_t bracket) {
   switch (bracket) {
-    case u'(': return u')';
-    case u'[': return u']';
-    case u'{': return u'}';
-    case u')': return u'(';
-    case u']': return u'[';
-    case u'}': return u'{';
-    default: return u'\0';
+    case u'(':
+      return u')';
+    case u'[':
+      return u']';
+    case u'{':
+      return u'}';
+    case u')':
+      return u'(';
+    case u']':
+      return u'[';
+    case u'}':
+      return u'{';
+    default:
+      return u'\0';
   }
 }
 
-bool IsOpening(char16_t c) { return c == u'(' || c == u'[' || c == u'{'; }
-bool IsClosing(char16_t c) { return c == u')' || c == u']' || c == u'}'; }
+bool IsOpening(char16_t c) {
+  return c == u'(' || c == u'[' || c == u'{';
+}
+bool IsClosing(char16_t c) {
+  return c == u')' || c == u']' || c == u'}';
+}
 
 }  // namespace
 
-bool IsFormulaDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
-bool IsFormulaLetter(char16_t c) { return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z'); }
-bool IsAlnumChar(char16_t c) { return IsFormulaDigit(c) || IsFormulaLetter(c); }
+bool IsAlnumChar(char16_t c) {
+  return IsDigitChar(c) || IsLetterChar(c);
+}
 
-std::u16string CharAt(const std::u16string& text, int32_t pos) { return Cut(text, pos, 1); }
+std::u16string CharAt(const std::u16string& text, int32_t pos) {
+  return Cut(text, pos, 1);
+}
 
 bool BracketsBalanced(const std::u16string& text) {
-  auto count = [&](char16_t c) { return std::count(text.begin(), text.end(), c); };
-  return count(u'(') == count(u')') && count(u'[') == count(u']') && count(u'{') == count(u'}');
+  return CountOf(text, u"(") == CountOf(text, u")") && CountOf(text, u"[") == CountOf(text, u"]") &&
+         CountOf(text, u"{") == CountOf(text, u"}");
 }
 
 std::u16string MatchBracket(const std::u16string& text, int32_t pos, Prompt* prompt) {
@@ -81,10 +95,10 @@ std::u16string MatchBracket(const std::u16string& text, int32_t pos, Prompt* pro
 }
 
 std::u16string LetterRun(const std::u16string& text, int32_t pos, bool backward) {
-  return Run(text, pos, backward, IsFormulaLetter);
+  return Run(text, pos, backward, static_cast<Test>(IsLetterChar));
 }
 std::u16string NumberRun(const std::u16string& text, int32_t pos, bool backward) {
-  return Run(text, pos, backward, IsFormulaDigit);
+  return Run(text, pos, backward, static_cast<Test>(IsDigitChar));
 }
 std::u16string AlnumRun(const std::u16string& text, int32_t pos, bool backward) {
   return Run(text, pos, backward, IsAlnumChar);
@@ -110,7 +124,7 @@ std::u16string LeftOperand(const std::u16string& text, int32_t pos, Prompt* prom
       result.insert(result.begin(), c);
       --i;
     } else if (i == pos) {
-      result = IsFormulaDigit(c) ? NumberRun(text, i, true) : LetterRun(text, i, true);
+      result = IsDigitChar(c) ? NumberRun(text, i, true) : LetterRun(text, i, true);
       int32_t runStart = pos - static_cast<int32_t>(result.size()) + 1;
       if (result.size() == 1 && runStart > 1 && UnitAt(text, runStart - 1) == u'@')
         result = u"@" + result;
@@ -130,8 +144,8 @@ std::u16string LeftOperand(const std::u16string& text, int32_t pos, Prompt* prom
 std::u16string RightOperand(const std::u16string& text, int32_t pos, Prompt* prompt) {
   char16_t first = UnitAt(text, pos);
   if (first == u'(') return MatchBracket(text, pos, prompt);
-  if (IsFormulaDigit(first)) return NumberRun(text, pos, false);
-  if (IsFormulaLetter(first)) return LetterRun(text, pos, false);
+  if (IsDigitChar(first)) return NumberRun(text, pos, false);
+  if (IsLetterChar(first)) return LetterRun(text, pos, false);
   int32_t length = 0;
   int32_t i = pos;
   while (i <= static_cast<int32_t>(text.size())) {
@@ -165,13 +179,13 @@ std::u16string PrevGroup(const std::u16string& text, int32_t pos, Prompt* prompt
   char16_t c = UnitAt(text, pos);
   if (!IsClosing(c)) {
     std::u16string one = CharAt(text, pos);
-    if (!IsFormulaDigit(c) && UnitAt(text, pos - 1) == u'@') return u"@" + one;
+    if (!IsDigitChar(c) && UnitAt(text, pos - 1) == u'@') return u"@" + one;
     return one;
   }
   std::u16string group = MatchBracket(text, pos, prompt);
   if (group.empty() || group.front() != u'{') return group;
   int32_t p = static_cast<int32_t>(text.find(group));  // 0-based start = 1-based position before
-  if (!IsFormulaDigit(UnitAt(text, p))) return group;
+  if (!IsDigitChar(UnitAt(text, p))) return group;
   std::u16string digits = NumberRun(text, p, true);
   std::u16string letters = LetterRun(text, p - static_cast<int32_t>(digits.size()), true);
   return letters + digits + group;

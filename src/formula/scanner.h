@@ -13,9 +13,8 @@ namespace lp {
 
 class Prompt;
 
-// Character classes by code: only ASCII counts, so Chinese text has no class.
-bool IsFormulaDigit(char16_t c);
-bool IsFormulaLetter(char16_t c);
+// Letters or digits by code (IsLetterChar, IsDigitChar): only ASCII counts,
+// so Chinese text has no class.
 bool IsAlnumChar(char16_t c);
 
 // The character at pos as a string, empty outside the text.

@@ -10,7 +10,7 @@
 namespace lp {
 namespace {
 
-constexpr int kSmallStack = 32;
+constexpr int kSmallStack = 32;  // one more than the deepest program it serves
 
 // The stack depth the program needs; a failing call counts as a push.
 int DepthOf(const std::vector<Instruction>& program) {
@@ -28,110 +28,126 @@ int DepthOf(const std::vector<Instruction>& program) {
   return most;
 }
 
-// One switch over every form, so that each instruction costs one dispatch.
+// One switch over every form, so that each instruction costs one dispatch;
+// the top of the stack stays in a register.
 double Run(const std::vector<Instruction>& program, double x, double* stack) {
-  double* top = stack - 1;
-  auto pop = [&top] { return *top--; };
+  double* top = stack;
+  double acc = 0;
   for (const Instruction& in : program) {
     switch (in.code) {
       case OpCode::kPushConst:
-        *++top = in.value;
+        *++top = acc;
+        acc = in.value;
         break;
       case OpCode::kPushX:
-        *++top = x;
+        *++top = acc;
+        acc = x;
         break;
-      case OpCode::kAdd: {
-        double b = pop();
-        *top = Finite(*top + b);
+      case OpCode::kPushScaledX:
+        *++top = acc;
+        acc = Finite(in.value * x);
         break;
-      }
+      case OpCode::kPushSquareX:
+        *++top = acc;
+        acc = Finite(x * x);
+        break;
+      case OpCode::kAdd:
+        acc = Finite(*top-- + acc);
+        break;
       case OpCode::kAddValue:
-        *top = Finite(*top + in.value);
+        acc = Finite(acc + in.value);
         break;
       case OpCode::kAddX:
-        *top = Finite(*top + x);
+        acc = Finite(acc + x);
         break;
-      case OpCode::kSubtract: {
-        double b = pop();
-        *top = Finite(*top - b);
+      case OpCode::kSubtract:
+        acc = Finite(*top-- - acc);
         break;
-      }
       case OpCode::kSubtractValue:
-        *top = Finite(*top - in.value);
+        acc = Finite(acc - in.value);
         break;
       case OpCode::kSubtractX:
-        *top = Finite(*top - x);
+        acc = Finite(acc - x);
         break;
-      case OpCode::kMultiply: {
-        double b = pop();
-        *top = Finite(*top * b);
+      case OpCode::kMultiply:
+        acc = Finite(*top-- * acc);
         break;
-      }
       case OpCode::kMultiplyValue:
-        *top = Finite(*top * in.value);
+        acc = Finite(acc * in.value);
         break;
       case OpCode::kMultiplyX:
-        *top = Finite(*top * x);
+        acc = Finite(acc * x);
         break;
-      case OpCode::kDivide: {
-        double b = pop();
-        *top = Divide(*top, b);
+      case OpCode::kDivide:
+        acc = Divide(*top--, acc);
         break;
-      }
       case OpCode::kDivideValue:
-        *top = Divide(*top, in.value);
+        acc = Divide(acc, in.value);
         break;
       case OpCode::kDivideX:
-        *top = Divide(*top, x);
+        acc = Divide(acc, x);
         break;
-      case OpCode::kPower: {
-        double b = pop();
-        *top = Power(*top, b);
+      case OpCode::kPower:
+        acc = Power(*top--, acc);
         break;
-      }
       case OpCode::kPowerValue:
-        *top = Power(*top, in.value);
+        acc = Power(acc, in.value);
         break;
       case OpCode::kPowerX:
-        *top = Power(*top, x);
+        acc = Power(acc, x);
         break;
       case OpCode::kNegate:
-        *top = -*top;
+        acc = -acc;
         break;
       case OpCode::kSquare:
-        *top = Finite(*top * *top);
+        acc = Finite(acc * acc);
         break;
       case OpCode::kSin:
-        *top = std::sin(*top);
+        acc = std::sin(acc);
         break;
       case OpCode::kCos:
-        *top = std::cos(*top);
+        acc = std::cos(acc);
         break;
       case OpCode::kAbs:
-        *top = std::fabs(*top);
+        acc = std::fabs(acc);
         break;
       case OpCode::kFail:
         RaiseEvalError(static_cast<EvalErrorKind>(in.value));
       default:
-        *top = ApplyUnary(in.code, *top);
+        acc = ApplyUnary(in.code, acc);
         break;
     }
   }
-  return *top;
+  return acc;
 }
 
 }  // namespace
 
+std::vector<Instruction> Fuse(const std::vector<Instruction>& program) {
+  std::vector<Instruction> out;
+  for (const Instruction& in : program) {
+    if (!out.empty() && out.back().code == OpCode::kPushConst && in.code == OpCode::kMultiplyX)
+      out.back().code = OpCode::kPushScaledX;
+    else if (!out.empty() && out.back().code == OpCode::kPushX && in.code == OpCode::kMultiplyValue)
+      out.back() = {OpCode::kPushScaledX, in.value};
+    else if (!out.empty() && out.back().code == OpCode::kPushX && in.code == OpCode::kSquare)
+      out.back().code = OpCode::kPushSquareX;
+    else
+      out.push_back(in);
+  }
+  return out;
+}
+
 CompiledExpression::CompiledExpression(const std::u16string& expression)
-    : program_(ParseExpression(expression)), depth_(DepthOf(program_)) {}
+    : program_(ParseExpression(expression)), depth_(DepthOf(program_)), point_(Fuse(program_)) {}
 
 double CompiledExpression::Evaluate(double x) const {
-  if (depth_ <= kSmallStack) {
+  if (depth_ < kSmallStack) {
     double stack[kSmallStack];
-    return Run(program_, x, stack);
+    return Run(point_, x, stack);
   }
-  std::vector<double> stack(depth_);
-  return Run(program_, x, stack.data());
+  std::vector<double> stack(depth_ + 1);
+  return Run(point_, x, stack.data());
 }
 
 double CompiledExpression::EvalAtX(double x) const {

@@ -36,6 +36,7 @@ class CompiledExpression {
  private:
   std::vector<Instruction> program_;
   int depth_ = 0;
+  std::vector<Instruction> point_;
 };
 
 // x as it reads back from the shortest text the runtime writes for it: 15

@@ -41,6 +41,8 @@ enum class OpCode : uint8_t {
   kInt,
   kExp,
   kFail,  // raises the error kind held in value
+  kPushScaledX,
+  kPushSquareX,
 };
 
 inline bool IsBinary(OpCode code) {

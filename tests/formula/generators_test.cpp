@@ -21,7 +21,9 @@ struct Row {
 constexpr FormulaSettings kFS{true, false};
 constexpr FormulaSettings kPLZH{false, true};
 
-std::string Show(const std::u16string& s) { return ToUtf8(s); }
+std::string Show(const std::u16string& s) {
+  return ToUtf8(s);
+}
 
 TEST(FormulaToEq, Examples) {
   const Row rows[] = {

@@ -102,9 +102,9 @@ TEST(ScriptPass, RaisedAndLoweredCharacters) {
 }
 
 TEST(CollectScripts, HeadsDigitsAndGroups) {
-  EXPECT_EQ(CollectScripts(u"EQ x\\S(2)+A\\o(\\S\\UP5(5),\\S\\DO3(3))+a\\S\\DO(\\S(1))"),
-            (std::vector<std::u16string>{u"\\S(2)", u"\\S\\UP5(5)", u"\\S\\DO3(3)",
-                                         u"\\S\\DO(\\S(1))"}));
+  EXPECT_EQ(
+      CollectScripts(u"EQ x\\S(2)+A\\o(\\S\\UP5(5),\\S\\DO3(3))+a\\S\\DO(\\S(1))"),
+      (std::vector<std::u16string>{u"\\S(2)", u"\\S\\UP5(5)", u"\\S\\DO3(3)", u"\\S\\DO(\\S(1))"}));
 }
 
 TEST(Mhgs, SignsThenLettersThenDigits) {

@@ -41,8 +41,7 @@ TEST(LatexToOmml, Constructs) {
       {"Greek", u" \\alpha + \\Omega ", "α</m:t>"},
       {"UprightO", u" {\\mathrm O} ", "<m:sty m:val=\"p\"/></m:rPr><m:t xml:space=\"preserve\">O"},
       {"Signs", u"a \\ge b \\ne c", "≥"},
-      {"System",
-       u"\\left\\{ \\begin{align} x+y=1 \\\\ x-y=3 \\\\ \\end{align}\\right.",
+      {"System", u"\\left\\{ \\begin{align} x+y=1 \\\\ x-y=3 \\\\ \\end{align}\\right.",
        "<m:d><m:dPr><m:begChr m:val=\"{\"/><m:endChr m:val=\"\"/></m:dPr><m:e><m:eqArr><m:e>"},
   };
   for (const Row& row : rows) {

@@ -96,8 +96,9 @@ TEST(DocxFile, RunRaisesForUnknownMacrosAndTurnsTexIntoEquations) {
   EXPECT_THROW(app->Run(u"MTCommand_TeXToggle"), ComError);
   app->SetTexConverter([](const std::u16string& tex) -> std::optional<std::string> {
     if (tex != u"x^2") return std::nullopt;
-    return std::string("<m:oMath><m:sSup><m:e><m:r><m:t>x</m:t></m:r></m:e><m:sup><m:r>"
-                       "<m:t>2</m:t></m:r></m:sup></m:sSup></m:oMath>");
+    return std::string(
+        "<m:oMath><m:sSup><m:e><m:r><m:t>x</m:t></m:r></m:e><m:sup><m:r>"
+        "<m:t>2</m:t></m:r></m:sup></m:sSup></m:oMath>");
   });
   auto& sel = app->Selection();
   sel.TypeText(u"设 $x^2$ 为");

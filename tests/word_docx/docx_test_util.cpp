@@ -33,6 +33,8 @@ std::string ReadPart(const std::filesystem::path& docx, const std::string& part)
   return Package::FromBytes(ReadFile(docx)).Read(part).value_or("");
 }
 
-std::string Utf8(const std::u16string& s) { return lp::ToUtf8(s); }
+std::string Utf8(const std::u16string& s) {
+  return lp::ToUtf8(s);
+}
 
 }  // namespace word::docx::testing

@@ -27,8 +27,7 @@ std::string Runs(const std::string& xml) {
       out += "{" + m[1].str() + "}";
     else if (std::regex_search(r, m, std::regex("<w:t[^>]*>(.*?)</w:t>")))
       out += "\"" + m[1].str() + "\"";
-    if (std::regex_search(r, m, std::regex("<w:sz w:val=\"(\\d+)\"")))
-      out += m[1].str();
+    if (std::regex_search(r, m, std::regex("<w:sz w:val=\"(\\d+)\""))) out += m[1].str();
   }
   return out;
 }
@@ -47,7 +46,7 @@ class Fields : public ::testing::Test {
 TEST_F(Fields, EqFieldIsWrittenAsWordWritesIt) {
   sel.TypeText(u"解");
   auto field = sel.Fields().Add(*sel.Range(), wdFieldEmpty, u"EQ \\F(1,2)", false);
-  EXPECT_EQ(field->Code()->Text(), u"");  // the code is hidden behind the formula
+  EXPECT_EQ(field->Code()->Text(), u"");   // the code is hidden behind the formula
   EXPECT_EQ(sel.Start(), 1 + 1 + 12 + 1);  // after begin, " EQ \F(1,2) " and end
   sel.TypeText(u"。");
   EXPECT_EQ(SavedRuns(), "\"解\"[begin]{ EQ \\F(1,2) }[end]\"。\"");

@@ -78,7 +78,9 @@ class Entry : public word::AutoTextEntry {
 
 class Entries : public word::AutoTextEntries {
  public:
-  void Add(const Text& name, word::Range& range) override { entries_[name] = Capture(PlaceOf(range)); }
+  void Add(const Text& name, word::Range& range) override {
+    entries_[name] = Capture(PlaceOf(range));
+  }
   std::unique_ptr<word::AutoTextEntry> Item(const Text& name) override {
     if (!entries_.count(name)) throw ComError(5941, "集合中所需的成员不存在。");
     return std::make_unique<Entry>(entries_, name);
@@ -90,6 +92,8 @@ class Entries : public word::AutoTextEntries {
 
 }  // namespace
 
-std::unique_ptr<word::AutoTextEntries> MakeAutoTextEntries() { return std::make_unique<Entries>(); }
+std::unique_ptr<word::AutoTextEntries> MakeAutoTextEntries() {
+  return std::make_unique<Entries>();
+}
 
 }  // namespace word::docx

@@ -11,13 +11,46 @@ namespace {
 
 // The sequence of CT_RPr.
 const char* const kOrder[] = {
-    "w:rStyle", "w:rFonts",  "w:b",          "w:bCs",          "w:i",          "w:iCs",
-    "w:caps",   "w:smallCaps", "w:strike",   "w:dstrike",      "w:outline",    "w:shadow",
-    "w:emboss", "w:imprint", "w:noProof",    "w:snapToGrid",   "w:vanish",     "w:webHidden",
-    "w:color",  "w:spacing", "w:w",          "w:kern",         "w:position",   "w:sz",
-    "w:szCs",   "w:highlight", "w:u",        "w:effect",       "w:bdr",        "w:shd",
-    "w:fitText", "w:vertAlign", "w:rtl",     "w:cs",           "w:em",         "w:lang",
-    "w:eastAsianLayout", "w:specVanish", "w:oMath", "w:rPrChange",
+    "w:rStyle",
+    "w:rFonts",
+    "w:b",
+    "w:bCs",
+    "w:i",
+    "w:iCs",
+    "w:caps",
+    "w:smallCaps",
+    "w:strike",
+    "w:dstrike",
+    "w:outline",
+    "w:shadow",
+    "w:emboss",
+    "w:imprint",
+    "w:noProof",
+    "w:snapToGrid",
+    "w:vanish",
+    "w:webHidden",
+    "w:color",
+    "w:spacing",
+    "w:w",
+    "w:kern",
+    "w:position",
+    "w:sz",
+    "w:szCs",
+    "w:highlight",
+    "w:u",
+    "w:effect",
+    "w:bdr",
+    "w:shd",
+    "w:fitText",
+    "w:vertAlign",
+    "w:rtl",
+    "w:cs",
+    "w:em",
+    "w:lang",
+    "w:eastAsianLayout",
+    "w:specVanish",
+    "w:oMath",
+    "w:rPrChange",
 };
 
 int OrderOf(const char* name) {
@@ -63,7 +96,8 @@ std::string ColorHex(long bgr) {
   if (bgr == -16777216) return "auto";
   char buf[8];
   std::snprintf(buf, sizeof buf, "%02X%02X%02X", static_cast<unsigned>(bgr & 0xFF),
-                static_cast<unsigned>((bgr >> 8) & 0xFF), static_cast<unsigned>((bgr >> 16) & 0xFF));
+                static_cast<unsigned>((bgr >> 8) & 0xFF),
+                static_cast<unsigned>((bgr >> 16) & 0xFF));
   return buf;
 }
 
@@ -78,8 +112,7 @@ std::optional<long> ParseColor(pugi::xml_node n) {
 }  // namespace
 
 bool CharFormat::Empty() const {
-  return !ascii && !eastAsia && !halfPoints && !bold && !italic && !vertAlign && !scaling &&
-         !color;
+  return !ascii && !eastAsia && !halfPoints && !bold && !italic && !vertAlign && !scaling && !color;
 }
 
 void CharFormat::Overlay(const CharFormat& o) {

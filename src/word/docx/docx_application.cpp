@@ -91,15 +91,33 @@ DocxApplication::DocxApplication(std::unique_ptr<DocxDocument> document)
 
 DocxApplication::~DocxApplication() = default;
 
-word::Documents& DocxApplication::Documents() { return parts_->documents; }
-word::Document& DocxApplication::ActiveDocument() { return *document_; }
-word::Selection& DocxApplication::Selection() { return document_->Selection(); }
-word::AddIns& DocxApplication::AddIns() { return parts_->addIns; }
-word::CommandBars& DocxApplication::CommandBars() { return parts_->bars; }
-word::KeyBindings& DocxApplication::KeyBindings() { return parts_->keys; }
-word::Options& DocxApplication::Options() { return parts_->options; }
-word::AutoCorrect& DocxApplication::AutoCorrect() { return parts_->autoCorrect; }
-word::NormalTemplate& DocxApplication::NormalTemplate() { return parts_->normal; }
+word::Documents& DocxApplication::Documents() {
+  return parts_->documents;
+}
+word::Document& DocxApplication::ActiveDocument() {
+  return *document_;
+}
+word::Selection& DocxApplication::Selection() {
+  return document_->Selection();
+}
+word::AddIns& DocxApplication::AddIns() {
+  return parts_->addIns;
+}
+word::CommandBars& DocxApplication::CommandBars() {
+  return parts_->bars;
+}
+word::KeyBindings& DocxApplication::KeyBindings() {
+  return parts_->keys;
+}
+word::Options& DocxApplication::Options() {
+  return parts_->options;
+}
+word::AutoCorrect& DocxApplication::AutoCorrect() {
+  return parts_->autoCorrect;
+}
+word::NormalTemplate& DocxApplication::NormalTemplate() {
+  return parts_->normal;
+}
 
 void DocxApplication::Run(const Text& macroName) {
   if (macroName == u"MTCommand_TeXToggle" && texConverter_) {
@@ -132,21 +150,25 @@ void DocxApplication::TexToggle() {
   }
 }
 
-bool DocxApplication::SaveIfChanged() { return document_->SaveIfChanged(); }
+bool DocxApplication::SaveIfChanged() {
+  return document_->SaveIfChanged();
+}
 
 std::unique_ptr<DocxApplication> OpenDocx(const std::filesystem::path& file) {
   std::error_code error;
   if (!std::filesystem::exists(file, error)) {
-    return std::make_unique<DocxApplication>(
-        std::make_unique<DocxDocument>(NewDocumentPackage(), file));
+    auto doc = std::make_unique<DocxDocument>(NewDocumentPackage(), file);
+    doc->MarkChanged();  // the first save creates the file
+    return std::make_unique<DocxApplication>(std::move(doc));
   }
-  if (std::filesystem::is_directory(file, error)) throw DocxFileError("这是一个文件夹，不是 .docx 文档。");
+  if (std::filesystem::is_directory(file, error))
+    throw DocxFileError("这是一个文件夹，不是 .docx 文档。");
   size_t size = 0;
   std::string bytes = FirstBytes(file, &size);
   if (size == 0) throw DocxFileError("文件是空的，不是 .docx 文档。");
   if (bytes.compare(0, 4, "\xD0\xCF\x11\xE0") == 0) {
-    bool encrypted = bytes.find(std::string("E\0n\0c\0r\0y\0p\0t\0e\0d\0P\0a\0c\0k\0a\0g\0e", 31)) !=
-                     std::string::npos;
+    bool encrypted = bytes.find(std::string("E\0n\0c\0r\0y\0p\0t\0e\0d\0P\0a\0c\0k\0a\0g\0e",
+                                            31)) != std::string::npos;
     throw DocxFileError(encrypted ? "文件已加密，无法打开。请在 Word 中取消密码后再试。"
                                   : "这是旧版 Word（.doc）文件，请先在 Word 中另存为 .docx。");
   }

@@ -87,10 +87,10 @@ class DocxTemplate : public word::Template {
 // Word's English names of the core properties and their elements.
 const char* CoreElement(const Text& name) {
   static const std::pair<const char16_t*, const char*> kNames[] = {
-      {u"Title", "dc:title"},       {u"Subject", "dc:subject"},
-      {u"Author", "dc:creator"},    {u"Keywords", "cp:keywords"},
+      {u"Title", "dc:title"},          {u"Subject", "dc:subject"},
+      {u"Author", "dc:creator"},       {u"Keywords", "cp:keywords"},
       {u"Comments", "dc:description"}, {u"Last author", "cp:lastModifiedBy"},
-      {u"Category", "cp:category"}, {u"Content status", "cp:contentStatus"},
+      {u"Category", "cp:category"},    {u"Content status", "cp:contentStatus"},
   };
   for (auto& [english, element] : kNames)
     if (name == english) return element;
@@ -196,7 +196,9 @@ void DocxDocument::SaveTo(const std::filesystem::path& file) {
   changed_ = coreChanged_ = false;
 }
 
-Text DocxDocument::FullName() const { return lp::FromUtf8(reinterpret_cast<const char*>(file_.u8string().c_str())); }
+Text DocxDocument::FullName() const {
+  return lp::FromUtf8(reinterpret_cast<const char*>(file_.u8string().c_str()));
+}
 
 Place DocxDocument::MakePlace(Story& story, long start, long end) {
   long length = story.Length();
@@ -218,7 +220,9 @@ word::Shapes& DocxDocument::Shapes() {
   return *shapes_;
 }
 
-word::Fields& DocxDocument::Fields() { return *fields_; }
+word::Fields& DocxDocument::Fields() {
+  return *fields_;
+}
 
 word::PageSetup& DocxDocument::PageSetup() {
   if (!pageSetup_) pageSetup_ = std::make_unique<DocxPageSetup>(*this);
@@ -261,7 +265,9 @@ std::unique_ptr<Template> DocxDocument::AttachedTemplate() {
 
 // The template and the font-embedding options live with Word, not with the
 // worksheet: they are kept for this run only.
-void DocxDocument::SetAttachedTemplate(const Text& path) { attachedTemplate_ = path; }
+void DocxDocument::SetAttachedTemplate(const Text& path) {
+  attachedTemplate_ = path;
+}
 void DocxDocument::SetEmbedTrueTypeFonts(bool) {}
 void DocxDocument::SetSaveSubsetFonts(bool) {}
 void DocxDocument::SetDoNotEmbedSystemFonts(bool) {}
@@ -367,9 +373,9 @@ CharFormat DocxDocument::FormatAt(Story& story, long pos) {
   pugi::xml_node paragraph = s.node;
   while (paragraph && std::strcmp(paragraph.name(), "w:p") != 0) paragraph = paragraph.parent();
   bool mark = s.kind == SegKind::ParaMark || s.kind == SegKind::CellMark;
-  pugi::xml_node run = mark ? paragraph.child("w:pPr")
+  pugi::xml_node run = mark                                              ? paragraph.child("w:pPr")
                        : std::strcmp(s.node.parent().name(), "w:r") == 0 ? s.node.parent()
-                                                                          : s.node;
+                                                                         : s.node;
   return styles_.Effective(run, paragraph);
 }
 

@@ -21,14 +21,16 @@ char16_t Narrow(char16_t c) {
   return c;
 }
 
-char16_t Lower(char16_t c) { return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c; }
+char16_t Lower(char16_t c) {
+  return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c;
+}
 
 }  // namespace
 
 bool IsWordLetter(char16_t c) {
-  return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || (c >= 0xC0 && c <= 0x24F && c != 0xD7 && c != 0xF7) ||
-         (c >= 0x391 && c <= 0x3C9) || (c >= 0x410 && c <= 0x44F) || (c >= 0xFF21 && c <= 0xFF3A) ||
-         (c >= 0xFF41 && c <= 0xFF5A);
+  return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') ||
+         (c >= 0xC0 && c <= 0x24F && c != 0xD7 && c != 0xF7) || (c >= 0x391 && c <= 0x3C9) ||
+         (c >= 0x410 && c <= 0x44F) || (c >= 0xFF21 && c <= 0xFF3A) || (c >= 0xFF41 && c <= 0xFF5A);
 }
 
 FindPattern::FindPattern(const std::u16string& p, PatternOptions options) : options_(options) {
@@ -37,12 +39,18 @@ FindPattern::FindPattern(const std::u16string& p, PatternOptions options) : opti
     char16_t c = p[i];
     if (c == u'^' && i + 1 < p.size()) {
       char16_t n = p[++i];
-      if (n == u'$') item->kind = Item::Letter;
-      else if (n == u'#') item->kind = Item::Digit;
-      else if (n == u'?') item->kind = Item::Any;
-      else if (n == u'p') item->ch = u'\r';
-      else if (n == u't') item->ch = u'\t';
-      else item->ch = n;
+      if (n == u'$')
+        item->kind = Item::Letter;
+      else if (n == u'#')
+        item->kind = Item::Digit;
+      else if (n == u'?')
+        item->kind = Item::Any;
+      else if (n == u'p')
+        item->ch = u'\r';
+      else if (n == u't')
+        item->ch = u'\t';
+      else
+        item->ch = n;
     } else if (options.wildcards && c == u'\\' && i + 1 < p.size()) {
       item->ch = p[++i];
     } else if (options.wildcards && c == u'?') {
@@ -81,8 +89,8 @@ FindPattern::FindPattern(const std::u16string& p, PatternOptions options) : opti
         return v;
       };
       last.min = number(body.substr(0, comma), 0);
-      last.max = comma == std::u16string::npos ? last.min
-                                               : number(body.substr(comma + 1), LONG_MAX);
+      last.max =
+          comma == std::u16string::npos ? last.min : number(body.substr(comma + 1), LONG_MAX);
       i = close;
       continue;
     } else if (options.wildcards && (c == u'(' || c == u')' || c == u'<' || c == u'>')) {

@@ -65,7 +65,8 @@ float TextWidth(const StoryIndex& ix, long from, long to, float size, bool* page
     if (s.hidden) continue;
     if (s.kind == SegKind::Text || s.kind == SegKind::Code)
       width += Ems(s.node.text().get(), std::max(from, s.pos) - s.pos,
-                   std::min(to, s.pos + s.length) - s.pos) * size;
+                   std::min(to, s.pos + s.length) - s.pos) *
+               size;
     else if (s.kind == SegKind::Break && s.mark == u'\f' && pageBreak)
       *pageBreak = true;
     else

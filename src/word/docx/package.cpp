@@ -93,7 +93,9 @@ Package Package::FromBytes(std::string bytes) {
   return p;
 }
 
-Package Package::Empty() { return Package(); }
+Package Package::Empty() {
+  return Package();
+}
 
 bool Package::Has(const std::string& part) const {
   if (written_.count(part)) return true;
@@ -128,8 +130,8 @@ void Package::SaveTo(const std::filesystem::path& file) const {
     if (!out.flush()) throw DocxFileError("无法保存文档：无法写入临时文件。");
   }
   int error = 0;
-  zip_t* z = zip_open(temp.string().c_str(), original_.empty() ? ZIP_CREATE | ZIP_TRUNCATE : 0,
-                      &error);
+  zip_t* z =
+      zip_open(temp.string().c_str(), original_.empty() ? ZIP_CREATE | ZIP_TRUNCATE : 0, &error);
   if (!z) {
     std::filesystem::remove(temp);
     throw DocxFileError("无法保存文档：无法创建临时文件。");

@@ -55,7 +55,9 @@ std::vector<FieldSpan> RangeFields::InRange() const {
   return out;
 }
 
-long RangeFields::Count() const { return static_cast<long>(InRange().size()); }
+long RangeFields::Count() const {
+  return static_cast<long>(InRange().size());
+}
 
 std::unique_ptr<word::Field> RangeFields::Item(long index) {
   auto fields = InRange();
@@ -66,16 +68,18 @@ std::unique_ptr<word::Field> RangeFields::Item(long index) {
 }
 
 std::unique_ptr<word::Field> RangeFields::Add(word::Range& where, long type, const Text& text,
-                                             bool preserveFormatting) {
+                                              bool preserveFormatting) {
   DocxDocument& doc = *place_.doc;
   DocxSelection& selection = doc.Selection();
   auto* holder = dynamic_cast<const PlaceHolder*>(&where);
   Story& story = holder ? *holder->GetPlace().story : *place_.story;
   const long start = where.Start(), end = where.End();
-  const bool caretHere = &selection.CurrentStory() == &story && selection.Start() == start &&
-                         selection.End() == start;
-  pugi::xml_node begin = AddField(doc, story, start, end, text);
-  if (text.empty() && start == end && caretHere) selection.SetPlace(story, start + 2, start + 2);
+  const bool caretHere =
+      &selection.CurrentStory() == &story && selection.Start() == start && selection.End() == start;
+  Text code = text;
+  if (preserveFormatting && !code.empty()) code += u" \\* MERGEFORMAT";
+  pugi::xml_node begin = AddField(doc, story, start, end, code);
+  if (code.empty() && start == end && caretHere) selection.SetPlace(story, start + 2, start + 2);
   return std::make_unique<FieldImpl>(doc, story, begin);
 }
 
@@ -86,7 +90,9 @@ void RangeFields::ToggleShowCodes() {
   for (const FieldSpan& f : fields) place_.doc->SetShowCode(f.begin, anyResult);
 }
 
-FieldSpan FieldImpl::Span() const { return SpanOf(story_, begin_); }
+FieldSpan FieldImpl::Span() const {
+  return SpanOf(story_, begin_);
+}
 
 std::unique_ptr<word::Range> FieldImpl::Code() {
   FieldSpan f = Span();

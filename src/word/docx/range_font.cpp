@@ -17,7 +17,9 @@ void Keep(std::optional<T>& common, const std::optional<T>& value, bool first) {
     common.reset();
 }
 
-long Tri(const std::optional<bool>& b) { return !b ? wdUndefined : *b ? wdTrue : wdFalse; }
+long Tri(const std::optional<bool>& b) {
+  return !b ? wdUndefined : *b ? wdTrue : wdFalse;
+}
 
 long VertFlag(const std::optional<VertAlign>& v, VertAlign which) {
   return !v ? wdUndefined : *v == which ? wdTrue : wdFalse;
@@ -73,13 +75,17 @@ bool RangeFont::Flag(long value, long current) const {
   return value != wdFalse;
 }
 
-Text RangeFont::Name() const { return Common().ascii.value_or(Text()); }
+Text RangeFont::Name() const {
+  return Common().ascii.value_or(Text());
+}
 void RangeFont::SetName(const Text& name) {
   CharFormat f;
   f.ascii = name;
   Apply(f);
 }
-Text RangeFont::NameFarEast() const { return Common().eastAsia.value_or(Text()); }
+Text RangeFont::NameFarEast() const {
+  return Common().eastAsia.value_or(Text());
+}
 void RangeFont::SetNameFarEast(const Text& name) {
   CharFormat f;
   f.eastAsia = name;
@@ -94,37 +100,49 @@ void RangeFont::SetSize(float points) {
   f.halfPoints = static_cast<int>(std::lround(points * 2));
   Apply(f);
 }
-long RangeFont::Bold() const { return Tri(Common().bold); }
+long RangeFont::Bold() const {
+  return Tri(Common().bold);
+}
 void RangeFont::SetBold(long value) {
   CharFormat f;
   f.bold = Flag(value, Bold());
   Apply(f);
 }
-long RangeFont::Italic() const { return Tri(Common().italic); }
+long RangeFont::Italic() const {
+  return Tri(Common().italic);
+}
 void RangeFont::SetItalic(long value) {
   CharFormat f;
   f.italic = Flag(value, Italic());
   Apply(f);
 }
-long RangeFont::Superscript() const { return VertFlag(Common().vertAlign, VertAlign::Superscript); }
+long RangeFont::Superscript() const {
+  return VertFlag(Common().vertAlign, VertAlign::Superscript);
+}
 void RangeFont::SetSuperscript(long value) {
   CharFormat f;
   f.vertAlign = Flag(value, Superscript()) ? VertAlign::Superscript : VertAlign::Baseline;
   Apply(f);
 }
-long RangeFont::Subscript() const { return VertFlag(Common().vertAlign, VertAlign::Subscript); }
+long RangeFont::Subscript() const {
+  return VertFlag(Common().vertAlign, VertAlign::Subscript);
+}
 void RangeFont::SetSubscript(long value) {
   CharFormat f;
   f.vertAlign = Flag(value, Subscript()) ? VertAlign::Subscript : VertAlign::Baseline;
   Apply(f);
 }
-long RangeFont::Scaling() const { return Common().scaling.value_or(wdUndefined); }
+long RangeFont::Scaling() const {
+  return Common().scaling.value_or(wdUndefined);
+}
 void RangeFont::SetScaling(long percent) {
   CharFormat f;
   f.scaling = static_cast<int>(percent);
   Apply(f);
 }
-long RangeFont::Color() const { return Common().color.value_or(wdUndefined); }
+long RangeFont::Color() const {
+  return Common().color.value_or(wdUndefined);
+}
 void RangeFont::SetColor(long rgb) {
   CharFormat f;
   f.color = rgb;
@@ -143,7 +161,9 @@ long RecordedFont::Superscript() const {
 void RecordedFont::SetSuperscript(long value) {
   format.vertAlign = value != wdFalse ? VertAlign::Superscript : VertAlign::Baseline;
 }
-long RecordedFont::Subscript() const { return VertFlag(format.vertAlign, VertAlign::Subscript); }
+long RecordedFont::Subscript() const {
+  return VertFlag(format.vertAlign, VertAlign::Subscript);
+}
 void RecordedFont::SetSubscript(long value) {
   format.vertAlign = value != wdFalse ? VertAlign::Subscript : VertAlign::Baseline;
 }

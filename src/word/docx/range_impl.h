@@ -31,9 +31,7 @@ class RangeImpl : public Base, public PlaceHolder {
     place_.span->end = Clamp(position);
     place_.span->start = std::min(place_.span->start, place_.span->end);
   }
-  word::Text Text() const override {
-    return place_.story->Index().Text(Start(), End(), false);
-  }
+  word::Text Text() const override { return place_.story->Index().Text(Start(), End(), false); }
   void SetText(const word::Text& text) override {
     long start = Start();
     place_.story->Delete(start, End());
@@ -82,9 +80,7 @@ class RangeImpl : public Base, public PlaceHolder {
   std::unique_ptr<word::Range> Duplicate() const override;
 
  protected:
-  long Clamp(long position) const {
-    return std::clamp(position, 0L, place_.story->Length());
-  }
+  long Clamp(long position) const { return std::clamp(position, 0L, place_.story->Length()); }
 
   Place place_;
   std::unique_ptr<RangeFont> font_;

@@ -69,7 +69,9 @@ std::vector<long> RangeCharacters::Positions() const {
   return out;
 }
 
-long RangeCharacters::Count() const { return static_cast<long>(Positions().size()); }
+long RangeCharacters::Count() const {
+  return static_cast<long>(Positions().size());
+}
 
 std::unique_ptr<word::Range> RangeCharacters::Item(long index) {
   auto positions = Positions();

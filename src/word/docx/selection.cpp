@@ -92,9 +92,9 @@ long DocxSelection::Delete(WdUnits unit, long count) {
 }
 
 // The caret position one unit on from `from`, skipping what is hidden.
-long DocxSelection::Step(long from, bool right, WdUnits unit) {
+long DocxSelection::Step(long from, bool right, WdUnits unit, bool extend) {
   const StoryIndex& ix = place_.story->Index();
-  const long last = std::max(0L, ix.length - 1);  // never behind the final mark
+  const long last = extend ? ix.length : std::max(0L, ix.length - 1);
   if (unit == wdStory) return right ? last : 0;
   long p = from;
   auto visible = [&](long q) { return q >= 0 && q < ix.length && !ix.Hidden(q); };
@@ -109,8 +109,8 @@ long DocxSelection::Step(long from, bool right, WdUnits unit) {
       while (p > 0 && !visible(p)) --p;
       if (p < 0) return 0;
     }
-  } while (unit == wdWord && p > 0 && p < last &&
-           IsWordChar(ix.CharAt(right ? p : p - 1)) && IsWordChar(ix.CharAt(right ? p - 1 : p)));
+  } while (unit == wdWord && p > 0 && p < last && IsWordChar(ix.CharAt(right ? p : p - 1)) &&
+           IsWordChar(ix.CharAt(right ? p - 1 : p)));
   return p;
 }
 
@@ -124,7 +124,7 @@ long DocxSelection::Move(long count, bool right, WdUnits unit, WdMovementType ex
   }
   long anchor = activeAtStart_ ? End() : Start();
   for (; count > 0; --count, ++moved) {
-    long next = Step(active, right, unit);
+    long next = Step(active, right, unit, extend == wdExtend);
     if (next == active) break;
     active = next;
   }
@@ -165,8 +165,7 @@ void DocxSelection::InsertSymbol(long characterNumber, const word::Text& font, b
 double DocxSelection::Information(WdInformation type) {
   auto& doc = *place_.doc;
   long pos = place_.story == &doc.MainStory() ? Start() : 0;
-  CaretEstimate caret = EstimateCaret(doc.MainStory().Index(), doc.Styles(),
-                                      doc.Geometry(), pos);
+  CaretEstimate caret = EstimateCaret(doc.MainStory().Index(), doc.Styles(), doc.Geometry(), pos);
   return type == wdHorizontalPositionRelativeToPage ? caret.x : caret.y;
 }
 

@@ -35,7 +35,8 @@ class DocxSelection : public RangeImpl<word::Selection> {
 
  private:
   long Move(long count, bool right, WdUnits unit, WdMovementType extend);
-  long Step(long from, bool right, WdUnits unit);
+  // extend: an extended selection may take in the final paragraph mark.
+  long Step(long from, bool right, WdUnits unit, bool extend = false);
   void ReplaceSelectionForTyping();
   void Moved() { pending_ = CharFormat(); }
 

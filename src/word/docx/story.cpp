@@ -9,7 +9,9 @@
 namespace word::docx {
 namespace {
 
-bool Is(pugi::xml_node n, const char* name) { return std::strcmp(n.name(), name) == 0; }
+bool Is(pugi::xml_node n, const char* name) {
+  return std::strcmp(n.name(), name) == 0;
+}
 
 bool IsMark(SegKind k) {
   return k == SegKind::ParaMark || k == SegKind::CellMark || k == SegKind::RowEnd;
@@ -173,8 +175,8 @@ pugi::xml_node Story::InsertInline(long pos, const pugi::xml_node& prototype, lo
   pugi::xml_node placed;
   if (ix.length == 0) {
     pugi::xml_node sectPr = container_.child("w:sectPr");
-    pugi::xml_node p = sectPr ? container_.insert_child_before("w:p", sectPr)
-                              : container_.append_child("w:p");
+    pugi::xml_node p =
+        sectPr ? container_.insert_child_before("w:p", sectPr) : container_.append_child("w:p");
     placed = p.append_copy(prototype);
   } else if (pos > 0 && !IsMark(ix.segments[ix.SegmentAt(pos - 1)].kind)) {
     pugi::xml_node after = SplitAfter(pos - 1);
@@ -213,8 +215,7 @@ pugi::xml_node Story::FormatSourceAt(long pos) {
     return runProps(ix.segments[ix.SegmentAt(pos - 1)]);
   const Segment& here = ix.segments[ix.SegmentAt(pos)];
   if (!IsMark(here.kind)) return runProps(here);
-  return here.kind == SegKind::RowEnd ? pugi::xml_node()
-                                      : here.node.child("w:pPr").child("w:rPr");
+  return here.kind == SegKind::RowEnd ? pugi::xml_node() : here.node.child("w:pPr").child("w:rPr");
 }
 
 void Story::InsertText(long pos, const std::u16string& text, const TypingFormat& format,
@@ -225,8 +226,7 @@ void Story::InsertText(long pos, const std::u16string& text, const TypingFormat&
     for (pugi::xml_node c : format.sourceRPr.children()) {
       static const char* const kSkip[] = {"w:rPrChange", "w:ins", "w:del", "w:moveFrom",
                                           "w:moveTo"};
-      if (std::none_of(std::begin(kSkip), std::end(kSkip),
-                       [&](const char* k) { return Is(c, k); }))
+      if (std::none_of(std::begin(kSkip), std::end(kSkip), [&](const char* k) { return Is(c, k); }))
         rPr.append_copy(c);
     }
   WriteRunProperties(rPr, format.overlay);

@@ -10,13 +10,15 @@
 namespace word::docx {
 namespace {
 
-bool Is(pugi::xml_node n, const char* name) { return std::strcmp(n.name(), name) == 0; }
+bool Is(pugi::xml_node n, const char* name) {
+  return std::strcmp(n.name(), name) == 0;
+}
 
 // Elements whose children continue the text around them.
 bool IsTransparent(pugi::xml_node n) {
   static const char* const kNames[] = {
-      "w:hyperlink", "w:ins",      "w:del",        "w:moveTo",  "w:moveFrom", "w:smartTag",
-      "w:customXml", "w:fldSimple", "w:sdtContent", "w:dir",     "w:bdo",
+      "w:hyperlink", "w:ins",       "w:del",        "w:moveTo", "w:moveFrom", "w:smartTag",
+      "w:customXml", "w:fldSimple", "w:sdtContent", "w:dir",    "w:bdo",
   };
   for (const char* name : kNames)
     if (Is(n, name)) return true;
@@ -166,9 +168,17 @@ class Builder {
 
   static bool IsObject(const char* name) {
     static const char* const kNames[] = {
-        "w:drawing",         "w:pict",           "w:object",          "mc:AlternateContent",
-        "w:sym",             "w:footnoteReference", "w:endnoteReference", "w:commentReference",
-        "w:ruby",            "w:separator",      "w:continuationSeparator",
+        "w:drawing",
+        "w:pict",
+        "w:object",
+        "mc:AlternateContent",
+        "w:sym",
+        "w:footnoteReference",
+        "w:endnoteReference",
+        "w:commentReference",
+        "w:ruby",
+        "w:separator",
+        "w:continuationSeparator",
     };
     for (const char* k : kNames)
       if (!std::strcmp(name, k)) return true;
@@ -289,7 +299,9 @@ StoryIndex BuildStoryIndex(pugi::xml_node container, const FieldDisplay& display
   return index;
 }
 
-std::u16string NodeText(pugi::xml_node element) { return lp::FromUtf8(element.text().get()); }
+std::u16string NodeText(pugi::xml_node element) {
+  return lp::FromUtf8(element.text().get());
+}
 
 void SetNodeText(pugi::xml_node element, const std::u16string& text) {
   element.text().set(lp::ToUtf8(text).c_str());

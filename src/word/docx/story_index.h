@@ -13,11 +13,11 @@
 namespace word::docx {
 
 enum class SegKind : unsigned char {
-  Text,       // w:t, w:delText
-  Code,       // w:instrText, w:delInstrText
-  ParaMark,   // node is the w:p
-  CellMark,   // the last paragraph mark of a table cell
-  RowEnd,     // node is the w:tr
+  Text,      // w:t, w:delText
+  Code,      // w:instrText, w:delInstrText
+  ParaMark,  // node is the w:p
+  CellMark,  // the last paragraph mark of a table cell
+  RowEnd,    // node is the w:tr
   FieldBegin,
   FieldSep,
   FieldEnd,  // node is the w:fldChar
@@ -31,7 +31,7 @@ struct Segment {
   long pos = 0;
   long length = 1;
   SegKind kind = SegKind::Object;
-  bool hidden = false;   // not shown: a field's code or result, as the field shows
+  bool hidden = false;     // not shown: a field's code or result, as the field shows
   bool codeAfter = false;  // text typed right after this segment belongs to a field code
   char16_t mark = 0;       // the character that stands for a single-position segment
 };
