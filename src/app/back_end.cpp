@@ -5,6 +5,10 @@
 #include "word/docx/docx_application.h"
 #include "word/types.h"
 
+#ifdef _WIN32
+#include "word/com/com_word.h"
+#endif
+
 namespace lp {
 namespace {
 
@@ -36,9 +40,25 @@ class DocxFile : public BackEnd, public WordConnector {
   std::unique_ptr<word::docx::DocxApplication> app_;
 };
 
+#ifdef _WIN32
+// Word itself, attached or started through COM; it keeps its own documents.
+class ComWord : public BackEnd {
+ public:
+  ComWord() : connector_(word::com::MakeComConnector()) {}
+  WordConnector& Connector() override { return *connector_; }
+  void SaveIfChanged() override {}
+
+ private:
+  std::unique_ptr<WordConnector> connector_;
+};
+#endif
+
 }  // namespace
 
 std::unique_ptr<BackEnd> MakeBackEnd(const std::string& docPath) {
+#ifdef _WIN32
+  if (docPath.empty()) return std::make_unique<ComWord>();
+#endif
   if (docPath.empty()) return std::make_unique<NoWord>();
   return std::make_unique<DocxFile>(docPath);
 }
