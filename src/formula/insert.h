@@ -39,4 +39,8 @@ void InsertFormulaAsMathType(Session& session, const std::u16string& text,
 // The same with the LaTeX already made.
 void TypeLatexAndToggle(Session& session, const std::u16string& latex);
 
+// A label of a text box: its "{EQ ...}" text becomes a real field, with
+// nested fields for inner braces and SYMBOL fields for "@x" greek keys.
+void ExpandSymbolFields(Session& session, word::Range& range);
+
 }  // namespace lp

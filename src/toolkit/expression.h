@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "toolkit/point_program.h"
 #include "toolkit/program.h"
 
 namespace lp {
@@ -36,7 +37,7 @@ class CompiledExpression {
  private:
   std::vector<Instruction> program_;
   int depth_ = 0;
-  std::vector<Instruction> point_;
+  PointProgram point_;
 };
 
 // x as it reads back from the shortest text the runtime writes for it: 15

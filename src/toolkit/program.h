@@ -41,8 +41,12 @@ enum class OpCode : uint8_t {
   kInt,
   kExp,
   kFail,  // raises the error kind held in value
-  kPushScaledX,
-  kPushSquareX,
+  // Steps of the one-point program only (toolkit/point_program.h), each in
+  // place of a leaf and the operation on it.
+  kPushScaledX,  // pushes value * x
+  kPushSquareX,  // pushes x * x
+  kPushAbsX,     // pushes |x|
+  kEnd,          // the value is complete
 };
 
 inline bool IsBinary(OpCode code) {

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "formula/commands.h"
+#include "formula/insert.h"
 #include "formula/latex_to_omml.h"
 #include "runtime/recording_prompt.h"
 #include "word/docx/docx_application.h"
@@ -79,6 +80,16 @@ TEST_F(DocxGs, TexRouteLeavesNativeEquation) {
   Gs(u"(a+b)/2");
   EXPECT_EQ(app->ActiveDocument().Fields().Count(), 0);
   EXPECT_EQ(app->ActiveDocument().Content()->Text().find(u'$'), std::u16string::npos);
+}
+
+TEST_F(DocxGs, BracesBecomeNestedFieldsWithSymbolLetters) {
+  app->Selection().TypeText(u"x{EQ \\F(1,@p)}y");
+  auto label = app->ActiveDocument().Range(1, 14);
+  ExpandSymbolFields(*session, *label);
+  word::Fields& fields = ShownFields();
+  ASSERT_EQ(fields.Count(), 2);
+  EXPECT_EQ(fields.Item(1)->Code()->Text(), u"EQ \\F(1,\x13 SYMBOL 112 \\f \"symbol\"\x15)");
+  EXPECT_EQ(fields.Item(2)->Code()->Text(), u" SYMBOL 112 \\f \"symbol\"");
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 
 #include "docx_test_util.h"
 #include "word/docx/docx_application.h"
+#include "word/docx/docx_document.h"
+#include "word/docx/selection.h"
 
 namespace word::docx {
 namespace {
@@ -120,6 +122,34 @@ TEST(DocxFile, BuiltInPropertiesAreReadAndWritten) {
   }
   auto app = OpenDocx(dir / "p.docx");
   EXPECT_EQ(app->ActiveDocument().BuiltInDocumentProperty(u"Title"), u"期中试卷");
+}
+
+}  // namespace
+}  // namespace word::docx
+
+namespace word::docx {
+namespace {
+
+TEST(DocxFile, TextBoxStoriesHaveTheirOwnPositions) {
+  TempDir dir;
+  const auto file = dir / "box.docx";
+  std::filesystem::copy_file(testing::Corpus("docx/shapes/aspose-Various shapes.docx"), file);
+  {
+    auto app = OpenDocx(file);
+    DocxDocument& doc = app->Document();
+    pugi::xml_node box = doc.DocumentXml().select_node("//w:txbxContent").node();
+    auto story = doc.StoryRange(box);
+    EXPECT_EQ(story->Start(), 0);
+    EXPECT_EQ(story->Text(), u"Hello world!");
+    story->Select();
+    app->Selection().MoveLeft(wdCharacter, 1, wdMove);
+    app->Selection().MoveRight(wdCharacter, 5, wdMove);
+    app->Selection().TypeText(u",");
+    app->ActiveDocument().Save();
+  }
+  auto app = OpenDocx(file);
+  pugi::xml_node box = app->Document().DocumentXml().select_node("//w:txbxContent").node();
+  EXPECT_EQ(app->Document().StoryRange(box)->Text(), u"Hello, world!");
 }
 
 }  // namespace
