@@ -118,7 +118,7 @@ class Run {
     }
     std::fflush(stdout);
     std::fflush(stderr);
-    std::_Exit(status_);
+    std::_Exit(status_ != 0 ? status_ : session_.exitStatus);
   }
 
   const RunOptions& options_;

@@ -15,7 +15,7 @@ void RunCommand(const CommandRow& row, Session& session, Frontend& ui) {
   }
   switch (row.how) {
     case How::kRoutine:
-      row.routine(session);
+      row.routine(session, ui);
       break;
     case How::kModeless:
       ui.ShowForm(row.form, false);

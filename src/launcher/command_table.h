@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "launcher/exit_lumenpad.h"
+#include "launcher/formula_commands.h"
 #include "launcher/frontend.h"
 #include "word/session.h"
 
@@ -26,20 +27,23 @@ struct CommandRow {
   std::u16string_view word;
   How how;
   std::u16string_view form;   // the dialog of a kModeless or kModal row
-  void (*routine)(Session&);  // the tool of a kRoutine row
+  void (*routine)(Session&, Frontend&);  // the tool of a kRoutine row
   bool built;
 };
 
 // test: nothing at all happens.
-inline void TestCommand(Session&) {}
+inline void TestCommand(Session&, Frontend&) {}
+
+// Anything else ends the run.
+inline void ExitCommand(Session& session, Frontend&) { ExitLumenpad(session); }
 
 inline constexpr std::array<CommandRow, 41> kCommandTable{{
     {u"test", How::kRoutine, {}, &TestCommand, true},
     {u"dot", How::kModeless, u"frmDot", nullptr, false},
     {u"group", How::kRoutine, {}, nullptr, false},
-    {u"mhgs", How::kRoutine, {}, nullptr, false},
+    {u"mhgs", How::kRoutine, {}, &MhgsCommand, true},
     {u"functiongraph", How::kModeless, u"frmGraph", nullptr, false},
-    {u"gs", How::kRoutine, {}, nullptr, false},
+    {u"gs", How::kRoutine, {}, &GsCommand, true},
     {u"shapeselecter", How::kModal, u"frmShapeSelecter", nullptr, false},
     {u"tk", How::kModeless, u"frmTK", nullptr, false},
     {u"kt", How::kModeless, u"frmKT", nullptr, false},
@@ -74,7 +78,7 @@ inline constexpr std::array<CommandRow, 41> kCommandTable{{
     {u"wbk_b", How::kRoutine, {}, nullptr, false},
     {u"wbk_y", How::kRoutine, {}, nullptr, false},
     {u"wbk_n", How::kRoutine, {}, nullptr, false},
-    {{}, How::kRoutine, {}, &ExitLumenpad, true},  // anything else
+    {{}, How::kRoutine, {}, &ExitCommand, true},  // anything else
 }};
 
 // The first row whose word is the text, else the last row.

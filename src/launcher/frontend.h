@@ -15,6 +15,10 @@ class Frontend {
   virtual void UnloadSplash() = 0;
   // Shows the form; a modal one returns when it is closed.
   virtual void ShowForm(std::u16string_view form, bool modal) = 0;
+  // True when no teacher watches: scripts, tests, a machine without display.
+  virtual bool Headless() const = 0;
+  // Serves waiting events during a long computation.
+  virtual void PumpEvents() = 0;
 };
 
 }  // namespace lp

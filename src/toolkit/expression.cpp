@@ -1,7 +1,6 @@
 #include "toolkit/expression.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "runtime/text.h"
 #include "toolkit/normalise.h"
@@ -9,8 +8,6 @@
 
 namespace lp {
 namespace {
-
-constexpr int kSmallStack = 32;
 
 // The stack depth the program needs; a failing call counts as a push.
 int DepthOf(const std::vector<Instruction>& program) {
@@ -31,27 +28,14 @@ int DepthOf(const std::vector<Instruction>& program) {
 }  // namespace
 
 CompiledExpression::CompiledExpression(const std::u16string& expression)
-    : program_(ParseExpression(expression)), depth_(DepthOf(program_)), point_(program_) {}
+    : program_(ParseExpression(expression)), depth_(DepthOf(program_)), point_(program_, depth_) {}
 
 double CompiledExpression::Evaluate(double x) const {
-  if (depth_ <= kSmallStack) {
-    double stack[kSmallStack];
-    return point_.Run(x, stack);
-  }
-  std::vector<double> stack(depth_);
-  return point_.Run(x, stack.data());
+  return point_.Run(x);
 }
 
 double CompiledExpression::EvalAtX(double x) const {
   return Evaluate(XThroughText(x));
-}
-
-double XThroughText(double x) {
-  char text[32];
-  auto written = std::to_chars(text, text + sizeof text, x, std::chars_format::scientific, 14);
-  double back = x;
-  std::from_chars(text, written.ptr, back);
-  return back;
 }
 
 double EvalAtX(double x, const std::u16string& expression) {

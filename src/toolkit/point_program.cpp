@@ -1,36 +1,38 @@
 #include "toolkit/point_program.h"
 
 #include <iterator>
+#include <optional>
 
 namespace lp {
 namespace {
 
-// The step that does leaf and then in, or kEnd when the two don't fuse. A
-// product is the same double either way round, so x*2 fuses as 2*x does.
-Instruction Fused(const Instruction& leaf, const Instruction& in) {
+// The one step that does leaf and then in, if there is one. A product is
+// the same double either way round, so x*2 fuses as 2*x does.
+std::optional<Instruction> Fused(const Instruction& leaf, const Instruction& in) {
   if (leaf.code == OpCode::kPushConst && in.code == OpCode::kMultiplyX)
-    return {OpCode::kPushScaledX, leaf.value};
-  if (leaf.code != OpCode::kPushX) return {OpCode::kEnd};
+    return Instruction{OpCode::kPushScaledX, leaf.value};
+  if (leaf.code != OpCode::kPushX) return std::nullopt;
   switch (in.code) {
     case OpCode::kMultiplyValue:
-      return {OpCode::kPushScaledX, in.value};
+      return Instruction{OpCode::kPushScaledX, in.value};
     case OpCode::kMultiplyX:
     case OpCode::kSquare:
-      return {OpCode::kPushSquareX};
+      return Instruction{OpCode::kPushSquareX};
     case OpCode::kAbs:
-      return {OpCode::kPushAbsX};
+      return Instruction{OpCode::kPushAbsX};
     default:
-      return {OpCode::kEnd};
+      return std::nullopt;
   }
 }
 
 }  // namespace
 
-PointProgram::PointProgram(const std::vector<Instruction>& program) {
+PointProgram::PointProgram(const std::vector<Instruction>& program, int depth) : depth_(depth) {
   for (const Instruction& in : program) {
-    Instruction fused = steps_.empty() ? Instruction{OpCode::kEnd} : Fused(steps_.back(), in);
-    if (fused.code != OpCode::kEnd)
-      steps_.back() = fused;
+    std::optional<Instruction> fused;
+    if (!steps_.empty()) fused = Fused(steps_.back(), in);
+    if (fused)
+      steps_.back() = *fused;
     else
       steps_.push_back(in);
   }
@@ -66,7 +68,17 @@ PointProgram::PointProgram(const std::vector<Instruction>& program) {
   LP_STEP(name##X) acc = ApplyBinary(OpCode::k##name, acc, x);               \
   LP_NEXT;
 
-double PointProgram::Run(double x, double* stack) const {
+double PointProgram::Run(double x) const {
+  constexpr int kSmallStack = 32;
+  if (depth_ <= kSmallStack) {
+    double stack[kSmallStack];
+    return RunOn(x, stack);
+  }
+  std::vector<double> stack(depth_);
+  return RunOn(x, stack.data());
+}
+
+double PointProgram::RunOn(double x, double* stack) const {
 #if defined(__GNUC__)
   static const void* const kStepCode[] = {
       &&PushConst,     &&PushX,     &&Add,      &&AddValue,      &&AddX,      &&Subtract,
@@ -80,21 +92,20 @@ double PointProgram::Run(double x, double* stack) const {
   const Instruction* step = steps_.data();
   double acc = 0;       // the top of the stack
   double* top = stack;  // where the value under acc goes
+  auto push = [&acc, &top](double value) {
+    *top++ = acc;
+    acc = value;
+  };
   LP_BEGIN
-  LP_STEP(PushConst)* top++ = acc;
-  acc = step->value;
+  LP_STEP(PushConst) push(step->value);
   LP_NEXT;
-  LP_STEP(PushX)* top++ = acc;
-  acc = x;
+  LP_STEP(PushX) push(x);
   LP_NEXT;
-  LP_STEP(PushScaledX)* top++ = acc;
-  acc = Finite(step->value * x);
+  LP_STEP(PushScaledX) push(Finite(step->value * x));
   LP_NEXT;
-  LP_STEP(PushSquareX)* top++ = acc;
-  acc = Finite(x * x);
+  LP_STEP(PushSquareX) push(Finite(x * x));
   LP_NEXT;
-  LP_STEP(PushAbsX)* top++ = acc;
-  acc = std::fabs(x);
+  LP_STEP(PushAbsX) push(std::fabs(x));
   LP_NEXT;
   LP_BINARY(Add)
   LP_BINARY(Subtract)
@@ -116,5 +127,12 @@ double PointProgram::Run(double x, double* stack) const {
   LP_STEP(End) return acc;
   LP_END
 }
+
+#undef LP_BEGIN
+#undef LP_STEP
+#undef LP_NEXT
+#undef LP_END
+#undef LP_UNARY
+#undef LP_BINARY
 
 }  // namespace lp

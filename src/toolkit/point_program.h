@@ -13,15 +13,18 @@ namespace lp {
 
 class PointProgram {
  public:
-  explicit PointProgram(const std::vector<Instruction>& program);
+  // depth is the postfix program's deepest stack.
+  PointProgram(const std::vector<Instruction>& program, int depth);
 
   // The value at x, raising EvalError where the postfix program would, with
-  // the same kind. stack holds at least as many values as the postfix
-  // program's deepest stack.
-  double Run(double x, double* stack) const;
+  // the same kind.
+  double Run(double x) const;
 
  private:
+  double RunOn(double x, double* stack) const;
+
   std::vector<Instruction> steps_;
+  int depth_;
 };
 
 }  // namespace lp

@@ -28,6 +28,10 @@ void QtFrontend::UnloadSplash() {
   splash_.reset();
 }
 
+void QtFrontend::PumpEvents() {
+  if (QCoreApplication::instance()) QCoreApplication::processEvents();
+}
+
 void QtFrontend::ShowForm(std::u16string_view name, bool modal) {
   app_.Get();
   form_ = MakeForm(name, session_);

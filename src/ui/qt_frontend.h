@@ -19,6 +19,8 @@ class QtFrontend : public Frontend {
   void SetSplashProgress(const std::u16string& text) override;
   void UnloadSplash() override;
   void ShowForm(std::u16string_view form, bool modal) override;
+  bool Headless() const override { return driven_; }
+  void PumpEvents() override;
 
   // The dialog SubMain left open, if any.
   Form* OpenForm() const { return form_.get(); }

@@ -27,6 +27,7 @@ struct Session {
   // How ExitLumenpad ends the run: the executable saves the document and
   // leaves the process; tests only take note.
   std::function<void()> EndRun;
+  int exitStatus = 0;  // the process's exit status when the run ends
 
   int16_t TemplateAttached = 0;
   long ShapeCounter = 0;

@@ -29,6 +29,8 @@ class Journal : public Frontend {
   void ShowForm(std::u16string_view form, bool modal) override {
     events.push_back((modal ? "modal " : "show ") + ToUtf8(std::u16string(form)));
   }
+  bool Headless() const override { return true; }
+  void PumpEvents() override {}
   std::vector<std::string> events;
 };
 

@@ -4,7 +4,9 @@
 
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <optional>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -115,6 +117,71 @@ double BlockValueAt(const CompiledExpression& compiled, double x) {
   double value = 0;
   compiled.EvaluateMany({&x, 1}, {&value, 1});
   return value;
+}
+
+// The one-point evaluator runs fused steps (2*x, x^2, abs(x) as one step
+// each); the block evaluator runs the plain postfix program, so the two agree
+// on every value and fail at the same points.
+TEST(Evaluator, FusedStepsAgreeWithTheBlockEvaluator) {
+  const char16_t* expressions[] = {
+      u"2*x",
+      u"x*3",
+      u"x^2",
+      u"x*x",
+      u"abs(x)",
+      u"-x*2+x^2-abs(x)*x",
+      u"1/x^2",
+      u"x^x",
+      u"sin(2*x)+x^2/3-abs(x)",
+      u"x*1e300",
+      u"sqr(x*x)-abs(x)",
+  };
+  const double xs[] = {0, -0.0, 1e-300, -1e-170, 0.5, -3.5, 2, 1e154, -1e200, 1e308, -1e308};
+  for (const char16_t* expression : expressions) {
+    CompiledExpression compiled(expression);
+    for (double x : xs) {
+      SCOPED_TRACE(ToUtf8(expression) + " at x = " + std::to_string(x));
+      double block = BlockValueAt(compiled, x);
+      try {
+        EXPECT_EQ(compiled.Evaluate(x), block);
+      } catch (const EvalError&) {
+        EXPECT_TRUE(std::isnan(block));
+      }
+    }
+  }
+  EXPECT_EQ(Outcome(u"2*x", 1e308), "error:overflow");
+  EXPECT_EQ(Outcome(u"x^2", -1e200), "error:overflow");
+  std::u16string deep = u"x";
+  for (int i = 0; i < 60; ++i) deep = u"x-(" + deep + u")";
+  EXPECT_EQ(CompiledExpression(deep).Evaluate(3), 3);  // deeper than the stack on hand
+}
+
+// x through its text against printf's digits read back by strtod, over
+// ordinary, extreme and nearly halfway values.
+TEST(Evaluator, XThroughTextMatchesPrintedDigits) {
+  auto printed = [](double x) {
+    char text[40];
+    std::snprintf(text, sizeof text, "%.14e", x);
+    return std::strtod(text, nullptr);
+  };
+  std::mt19937_64 random(20240601);
+  std::uniform_real_distribution<double> unit(-1, 1);
+  std::uniform_int_distribution<int> exponent(-12, 18);
+  std::uniform_int_distribution<long long> digits(100000000000000, 999999999999999);
+  std::vector<double> xs = {0,    -0.0,  0.1 + 0.2, 10000000000000.25, 10000000000000.75, 1e-8,
+                            1e14, 1e300, 5e-324,    HUGE_VAL,          -HUGE_VAL};
+  for (int i = 0; i < 50000; ++i) {
+    xs.push_back(unit(random) * 20);
+    xs.push_back(unit(random) * std::pow(10.0, exponent(random)));
+    // A 16th digit of 5: the nearest double and its neighbours lie on
+    // either side of the halfway point or on it.
+    double halfway = (digits(random) + 0.5) * std::pow(10.0, exponent(random) - 14);
+    xs.push_back(std::nextafter(halfway, 0));
+    xs.push_back(halfway);
+    xs.push_back(std::nextafter(halfway, HUGE_VAL));
+  }
+  for (double x : xs) ASSERT_EQ(XThroughText(x), printed(x)) << std::to_string(x);
+  EXPECT_TRUE(std::isnan(XThroughText(NAN)));
 }
 
 // Random expressions against an interpreter written separately in Python;

@@ -38,9 +38,16 @@ TEST(DocxFile, CaretPersistsBetweenRunsAndUnchangedFilesAreNotWritten) {
     app->Selection().TypeText(u"1");
     EXPECT_TRUE(app->SaveIfChanged());
   }
+  {
+    auto app = OpenDocx(file);
+    EXPECT_EQ(app->ActiveDocument().Content()->Text(), u"第一题\rx1=\r");
+    EXPECT_EQ(app->Selection().Start(), 6);
+    app->Selection().MoveLeft(wdStory, 1, wdMove);
+    app->Selection().MoveRight(wdCharacter, 2, wdExtend);
+    EXPECT_TRUE(app->SaveIfChanged());
+  }
   auto app = OpenDocx(file);
-  EXPECT_EQ(app->ActiveDocument().Content()->Text(), u"第一题\rx1=\r");
-  EXPECT_EQ(app->Selection().Start(), 6);
+  EXPECT_EQ(app->Selection().Text(), u"第一");
 }
 
 TEST(DocxFile, FileWithoutStoredCaretHasItAtTheEndOfTheLastParagraph) {

@@ -173,10 +173,13 @@ void DocxDocument::StoreCaret() {
   for (const pugi::xpath_node& x : xml_.select_nodes("//w:bookmarkStart"))
     id = std::max(id, x.node().attribute("w:id").as_int() + 1L);
   const std::string idText = std::to_string(id);
-  main_->InsertMarker(caret.second, "w:bookmarkEnd").append_attribute("w:id") = idText.c_str();
   pugi::xml_node start = main_->InsertMarker(caret.first, "w:bookmarkStart");
   start.append_attribute("w:id") = idText.c_str();
   start.append_attribute("w:name") = kCaretBookmark;
+  pugi::xml_node end = caret.first == caret.second
+                           ? start.parent().insert_child_after("w:bookmarkEnd", start)
+                           : main_->InsertMarker(caret.second, "w:bookmarkEnd");
+  end.append_attribute("w:id") = idText.c_str();
   storedCaret_ = caret;
   changed_ = true;
 }

@@ -1,5 +1,6 @@
 #include "word/docx/find_pattern.h"
 
+#include <algorithm>
 #include <climits>
 
 namespace word::docx {
@@ -33,68 +34,93 @@ bool IsWordLetter(char16_t c) {
          (c >= 0x410 && c <= 0x44F) || (c >= 0xFF21 && c <= 0xFF3A) || (c >= 0xFF41 && c <= 0xFF5A);
 }
 
+namespace {
+
+using Item = FindPattern::Item;
+
+// ^x without wildcards: the special characters of Word's search box.
+void CaretCode(char16_t c, Item& item) {
+  switch (c) {
+    case u'$':
+      item.kind = Item::Letter;
+      break;
+    case u'#':
+      item.kind = Item::Digit;
+      break;
+    case u'?':
+      item.kind = Item::Any;
+      break;
+    case u'p':
+      item.ch = u'\r';
+      break;
+    case u't':
+      item.ch = u'\t';
+      break;
+    default:
+      item.ch = c;
+  }
+}
+
+// [abc], [a-z], [!x] from the "[" at i; returns the index of the "]".
+size_t ParseSet(const std::u16string& p, size_t i, Item& item) {
+  item.kind = Item::Set;
+  size_t j = i + 1;
+  if (j < p.size() && p[j] == u'!') item.negated = true, ++j;
+  for (; j < p.size() && p[j] != u']'; ++j) {
+    char16_t lo = p[j], hi = p[j];
+    if (j + 2 < p.size() && p[j + 1] == u'-' && p[j + 2] != u']') hi = p[j += 2];
+    item.ranges.push_back({lo, hi});
+  }
+  return j;
+}
+
+// {n}, {n,}, {n,m} from the "{" at i; returns the index of the "}".
+size_t ParseRepeat(const std::u16string& p, size_t i, Item& item) {
+  size_t close = std::min(p.find(u'}', i), p.size());
+  std::u16string body = p.substr(i + 1, close - i - 1);
+  size_t comma = body.find(u',');
+  auto number = [](const std::u16string& s, long fallback) {
+    if (s.empty()) return fallback;
+    long v = 0;
+    for (char16_t d : s)
+      if (d >= u'0' && d <= u'9') v = v * 10 + (d - u'0');
+    return v;
+  };
+  item.min = number(body.substr(0, comma), 0);
+  item.max = comma == std::u16string::npos ? item.min : number(body.substr(comma + 1), LONG_MAX);
+  return close;
+}
+
+}  // namespace
+
 FindPattern::FindPattern(const std::u16string& p, PatternOptions options) : options_(options) {
+  const bool w = options.wildcards;
   for (size_t i = 0; i < p.size(); ++i) {
-    auto item = std::make_shared<Item>();
     char16_t c = p[i];
-    if (c == u'^' && i + 1 < p.size()) {
-      char16_t n = p[++i];
-      if (n == u'$')
-        item->kind = Item::Letter;
-      else if (n == u'#')
-        item->kind = Item::Digit;
-      else if (n == u'?')
-        item->kind = Item::Any;
-      else if (n == u'p')
-        item->ch = u'\r';
-      else if (n == u't')
-        item->ch = u'\t';
+    if (w && (c == u'{' || c == u'@') && !items_.empty()) {
+      Item& last = *items_.back();
+      if (c == u'@')
+        last.min = 1, last.max = LONG_MAX;
       else
-        item->ch = n;
-    } else if (options.wildcards && c == u'\\' && i + 1 < p.size()) {
+        i = ParseRepeat(p, i, last);
+      continue;
+    }
+    if (w && (c == u'(' || c == u')' || c == u'<' || c == u'>'))
+      continue;  // grouping and word edges do not narrow what the tools search
+    auto item = std::make_shared<Item>();
+    if (c == u'^' && i + 1 < p.size()) {
+      CaretCode(p[++i], *item);
+    } else if (w && c == u'\\' && i + 1 < p.size()) {
       item->ch = p[++i];
-    } else if (options.wildcards && c == u'?') {
+    } else if (w && c == u'?') {
       item->kind = Item::Any;
-    } else if (options.wildcards && c == u'*') {
+    } else if (w && c == u'*') {
       item->kind = Item::Any;
       item->min = 0;
       item->max = LONG_MAX;
       item->lazy = true;
-    } else if (options.wildcards && c == u'[') {
-      item->kind = Item::Set;
-      size_t j = i + 1;
-      if (j < p.size() && p[j] == u'!') item->negated = true, ++j;
-      for (; j < p.size() && p[j] != u']'; ++j) {
-        char16_t lo = p[j], hi = p[j];
-        if (j + 2 < p.size() && p[j + 1] == u'-' && p[j + 2] != u']') hi = p[j += 2];
-        item->ranges.push_back({lo, hi});
-      }
-      i = j;
-    } else if (options.wildcards && (c == u'{' || c == u'@') && !items_.empty()) {
-      Item& last = *items_.back();
-      if (c == u'@') {
-        last.min = 1;
-        last.max = LONG_MAX;
-        continue;
-      }
-      size_t close = p.find(u'}', i);
-      if (close == std::u16string::npos) close = p.size();
-      std::u16string body = p.substr(i + 1, close - i - 1);
-      size_t comma = body.find(u',');
-      auto number = [](const std::u16string& s, long fallback) {
-        if (s.empty()) return fallback;
-        long v = 0;
-        for (char16_t d : s)
-          if (d >= u'0' && d <= u'9') v = v * 10 + (d - u'0');
-        return v;
-      };
-      last.min = number(body.substr(0, comma), 0);
-      last.max =
-          comma == std::u16string::npos ? last.min : number(body.substr(comma + 1), LONG_MAX);
-      i = close;
-      continue;
-    } else if (options.wildcards && (c == u'(' || c == u')' || c == u'<' || c == u'>')) {
-      continue;  // grouping and word edges do not narrow what the tools search
+    } else if (w && c == u'[') {
+      i = ParseSet(p, i, *item);
     } else {
       item->ch = c;
     }

@@ -88,6 +88,7 @@ void RangeFields::ToggleShowCodes() {
   bool anyResult = false;
   for (const FieldSpan& f : fields) anyResult = anyResult || !place_.doc->ShowsCode(f.begin);
   for (const FieldSpan& f : fields) place_.doc->SetShowCode(f.begin, anyResult);
+  if (!anyResult) place_.doc->Selection().LeaveHiddenCodes(*place_.story, fields);
 }
 
 FieldSpan FieldImpl::Span() const {

@@ -27,6 +27,15 @@ void DocxSelection::SetPlace(Story& story, long start, long end) {
   Moved();
 }
 
+void DocxSelection::LeaveHiddenCodes(Story& story, const std::vector<FieldSpan>& fields) {
+  if (&story != place_.story) return;
+  for (const FieldSpan& f : fields) {
+    for (long* end : {&place_.span->start, &place_.span->end})
+      if (*end > f.beginPos && *end <= f.endPos) *end = f.endPos + 1;
+  }
+  place_.span->end = std::max(place_.span->start, place_.span->end);
+}
+
 word::Font& DocxSelection::Font() {
   if (!font_) font_ = std::make_unique<RangeFont>(place_, &pending_);
   return *font_;

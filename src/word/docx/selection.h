@@ -13,6 +13,9 @@ class DocxSelection : public RangeImpl<word::Selection> {
   // Moves the selection, possibly into another story.
   void SetPlace(Story& story, long start, long end);
   Story& CurrentStory() { return *place_.story; }
+  // An end of the selection inside the code of one of these fields, now
+  // hidden, moves behind the field, as the caret cannot stand in hidden code.
+  void LeaveHiddenCodes(Story& story, const std::vector<FieldSpan>& fields);
 
   word::Font& Font() override;
   void SetStart(long position) override;

@@ -91,6 +91,28 @@ pugi::xml_node LiftSplit(pugi::xml_node node, pugi::xml_node paragraph) {
   return node;
 }
 
+// The properties typed text takes: the source's, less change tracking, with
+// the overlay written over them.
+void TypedRunProperties(const TypingFormat& format, pugi::xml_node rPr) {
+  static const char* const kSkip[] = {"w:rPrChange", "w:ins", "w:del", "w:moveFrom", "w:moveTo"};
+  for (pugi::xml_node c : format.sourceRPr.children())
+    if (std::none_of(std::begin(kSkip), std::end(kSkip), [&](const char* k) { return Is(c, k); }))
+      rPr.append_copy(c);
+  WriteRunProperties(rPr, format.overlay);
+}
+
+// A run holding text, with w:tab and w:br for tabs and line breaks.
+void FillRun(pugi::xml_node run, const std::u16string& piece, const char* element) {
+  size_t k = 0;
+  while (k < piece.size()) {
+    size_t special = piece.find_first_of(u"\t\v", k);
+    if (special == std::u16string::npos) special = piece.size();
+    if (special > k) SetNodeText(run.append_child(element), piece.substr(k, special - k));
+    if (special < piece.size()) run.append_child(piece[special] == u'\t' ? "w:tab" : "w:br");
+    k = special + 1;
+  }
+}
+
 }  // namespace
 
 const StoryIndex& Story::Index() {
@@ -135,11 +157,18 @@ void Story::AdjustDelete(long start, long end) {
   }
 }
 
-pugi::xml_node Story::SplitBefore(long pos) {
+std::optional<Segment> Story::RunContentAt(long pos) {
   const StoryIndex& ix = Index();
-  if (pos < 0 || pos >= ix.length) return {};
-  const Segment s = ix.segments[ix.SegmentAt(pos)];
-  if (IsMark(s.kind)) return {};
+  if (pos < 0 || pos >= ix.length) return std::nullopt;
+  const Segment& s = ix.segments[ix.SegmentAt(pos)];
+  if (IsMark(s.kind)) return std::nullopt;
+  return s;
+}
+
+pugi::xml_node Story::SplitBefore(long pos) {
+  const std::optional<Segment> found = RunContentAt(pos);
+  if (!found) return {};
+  const Segment& s = *found;
   pugi::xml_node e = s.node;
   if ((s.kind == SegKind::Text || s.kind == SegKind::Code) && pos > s.pos) {
     e = SplitTextElement(e, static_cast<size_t>(pos - s.pos));
@@ -152,10 +181,9 @@ pugi::xml_node Story::SplitBefore(long pos) {
 }
 
 pugi::xml_node Story::SplitAfter(long pos) {
-  const StoryIndex& ix = Index();
-  if (pos < 0 || pos >= ix.length) return {};
-  const Segment s = ix.segments[ix.SegmentAt(pos)];
-  if (IsMark(s.kind)) return {};
+  const std::optional<Segment> found = RunContentAt(pos);
+  if (!found) return {};
+  const Segment& s = *found;
   pugi::xml_node e = s.node;
   if ((s.kind == SegKind::Text || s.kind == SegKind::Code) && pos + 1 < s.pos + s.length) {
     SplitTextElement(e, static_cast<size_t>(pos + 1 - s.pos));
@@ -218,54 +246,41 @@ pugi::xml_node Story::FormatSourceAt(long pos) {
   return here.kind == SegKind::RowEnd ? pugi::xml_node() : here.node.child("w:pPr").child("w:rPr");
 }
 
+void Story::InsertPiece(long pos, const std::u16string& piece, pugi::xml_node rPr, bool forceCode) {
+  const StoryIndex& ix = Index();
+  const Segment* prev = pos > 0 ? &ix.segments[ix.SegmentAt(pos - 1)] : nullptr;
+  const char* element = forceCode || (prev && prev->codeAfter) ? "w:instrText" : "w:t";
+  bool plain = piece.find_first_of(u"\t\v") == std::u16string::npos;
+  // Text typed behind text of the same format joins its element.
+  if (plain && prev && Is(prev->node, element) && Is(prev->node.parent(), "w:r") &&
+      Key(prev->node.parent().child("w:rPr")) == Key(rPr)) {
+    std::u16string t = NodeText(prev->node);
+    t.insert(static_cast<size_t>(pos - prev->pos), piece);
+    SetNodeText(prev->node, t);
+    Changed();
+  } else {
+    pugi::xml_document proto;
+    pugi::xml_node run = proto.append_child("w:r");
+    if (rPr.first_child()) run.append_copy(rPr);
+    FillRun(run, piece, element);
+    InsertInline(pos, run, 0);
+  }
+  AdjustInsert(pos, static_cast<long>(piece.size()));
+}
+
 void Story::InsertText(long pos, const std::u16string& text, const TypingFormat& format,
                        bool forceCode) {
   pugi::xml_document scratch;
   pugi::xml_node rPr = scratch.append_child("w:rPr");
-  if (format.sourceRPr)
-    for (pugi::xml_node c : format.sourceRPr.children()) {
-      static const char* const kSkip[] = {"w:rPrChange", "w:ins", "w:del", "w:moveFrom",
-                                          "w:moveTo"};
-      if (std::none_of(std::begin(kSkip), std::end(kSkip), [&](const char* k) { return Is(c, k); }))
-        rPr.append_copy(c);
-    }
-  WriteRunProperties(rPr, format.overlay);
-  const std::string key = Key(rPr);
-
+  TypedRunProperties(format, rPr);
   size_t i = 0;
   while (i <= text.size()) {
     size_t stop = text.find_first_of(u"\r\n", i);
     if (stop == std::u16string::npos) stop = text.size();
-    std::u16string piece = text.substr(i, stop - i);
-    if (!piece.empty()) {
-      const StoryIndex& ix = Index();
-      pos = std::clamp(pos, 0L, std::max(0L, ix.length - 1));
-      bool code = forceCode || (pos > 0 && ix.segments[ix.SegmentAt(pos - 1)].codeAfter);
-      const char* element = code ? "w:instrText" : "w:t";
-      const Segment* prev = pos > 0 ? &ix.segments[ix.SegmentAt(pos - 1)] : nullptr;
-      bool plain = piece.find_first_of(u"\t\v") == std::u16string::npos;
-      if (plain && prev && Is(prev->node, element) && Is(prev->node.parent(), "w:r") &&
-          Key(prev->node.parent().child("w:rPr")) == key) {
-        std::u16string t = NodeText(prev->node);
-        t.insert(static_cast<size_t>(pos - prev->pos), piece);
-        SetNodeText(prev->node, t);
-        Changed();
-      } else {
-        pugi::xml_document proto;
-        pugi::xml_node run = proto.append_child("w:r");
-        if (rPr.first_child()) run.append_copy(rPr);
-        size_t k = 0;
-        while (k < piece.size()) {
-          size_t special = piece.find_first_of(u"\t\v", k);
-          if (special == std::u16string::npos) special = piece.size();
-          if (special > k) SetNodeText(run.append_child(element), piece.substr(k, special - k));
-          if (special < piece.size()) run.append_child(piece[special] == u'\t' ? "w:tab" : "w:br");
-          k = special + 1;
-        }
-        InsertInline(pos, run, 0);
-      }
-      AdjustInsert(pos, static_cast<long>(piece.size()));
-      pos += static_cast<long>(piece.size());
+    pos = std::clamp(pos, 0L, std::max(0L, Length() - 1));
+    if (stop > i) {
+      InsertPiece(pos, text.substr(i, stop - i), rPr, forceCode);
+      pos += static_cast<long>(stop - i);
     }
     if (stop >= text.size()) break;
     InsertParagraph(pos++);

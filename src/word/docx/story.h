@@ -4,6 +4,7 @@
 // Word moves its ranges.
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -67,6 +68,9 @@ class Story {
   void Changed();
   void AdjustInsert(long pos, long count);
   void AdjustDelete(long start, long end);
+  void InsertPiece(long pos, const std::u16string& piece, pugi::xml_node rPr, bool forceCode);
+  // The segment at pos when it is inside a run (not a mark).
+  std::optional<Segment> RunContentAt(long pos);
   void DeleteSegmentPart(const Segment& s, long from, long to);
   bool MergeParagraphAt(const Segment& mark);
   pugi::xml_node NewRunAt(long pos, pugi::xml_node rPr, bool code);
