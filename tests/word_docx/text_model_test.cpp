@@ -2,6 +2,7 @@
 
 #include "docx_test_util.h"
 #include "word/docx/docx_application.h"
+#include "word/docx/new_document.h"
 
 namespace word::docx {
 namespace {
@@ -101,6 +102,95 @@ TEST_F(TextModel, InsertSymbolTakesOnePosition) {
   sel.InsertSymbol(-3898, u"Symbol", true);
   EXPECT_EQ(doc.Content()->Characters().Count(), 4);
   EXPECT_EQ(sel.Start(), 3);
+}
+
+}  // namespace
+}  // namespace word::docx
+
+namespace word::docx {
+namespace {
+
+// A body as Word writes one: tab, hyperlink, line break, a field with its
+// result, a bookmark around them, then a table of one row of two cells.
+const char* const kMarkup =
+    R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
+    R"(<w:document xmlns:w="http://schemas.openxmlformats.org/wordprocessingml/2006/main"><w:body>)"
+    R"(<w:p><w:r><w:t>a</w:t><w:tab/><w:t>b</w:t></w:r><w:hyperlink><w:r><w:t>链</w:t></w:r></w:hyperlink>)"
+    R"(<w:bookmarkStart w:id="1" w:name="mark"/><w:r><w:br/></w:r>)"
+    R"(<w:r><w:fldChar w:fldCharType="begin"/></w:r><w:r><w:instrText xml:space="preserve"> PAGE </w:instrText></w:r>)"
+    R"(<w:r><w:fldChar w:fldCharType="separate"/></w:r><w:r><w:t>7</w:t></w:r>)"
+    R"(<w:r><w:fldChar w:fldCharType="end"/></w:r><w:bookmarkEnd w:id="1"/></w:p>)"
+    R"(<w:tbl><w:tr><w:tc><w:p><w:r><w:t>c1</w:t></w:r></w:p></w:tc>)"
+    R"(<w:tc><w:p><w:r><w:t>c2</w:t></w:r></w:p></w:tc></w:tr></w:tbl><w:p/></w:body></w:document>)";
+
+TEST(Positions, WordWrittenMarkupCountsAsWordCountsIt) {
+  testing::TempDir dir;
+  Package package = NewDocumentPackage();
+  package.Write("word/document.xml", kMarkup);
+  package.SaveTo(dir / "markup.docx");
+  auto app = OpenDocx(dir / "markup.docx");
+  word::Document& doc = app->ActiveDocument();
+  EXPECT_EQ(doc.Content()->End(), 24);
+  EXPECT_EQ(doc.Content()->Text(), u"a\tb链\v7\rc1\ac2\a\a\r");
+  EXPECT_EQ(doc.Content()->Characters().Count(), 15);
+  EXPECT_EQ(doc.Range(13, 14)->Text(), u"7");
+  auto mark = doc.Bookmarks().Item(u"mark");
+  EXPECT_EQ(mark->Start(), 4);
+  EXPECT_EQ(mark->End(), 15);
+  EXPECT_EQ(doc.Fields().Item(1)->Result()->Text(), u"7");
+  doc.Fields().ToggleShowCodes();
+  EXPECT_EQ(doc.Range(0, 16)->Text(), u"a\tb链\v\x13 PAGE \x15\r");
+  EXPECT_EQ(doc.Range(16, 18)->Text(), u"c1");
+}
+
+TEST(Positions, SimpleFieldsCountAsFields) {
+  testing::TempDir dir;
+  Package package = NewDocumentPackage();
+  package.Write(
+      "word/document.xml",
+      R"(<w:document xmlns:w="http://schemas.openxmlformats.org/wordprocessingml/2006/main">)"
+      R"(<w:body><w:p><w:r><w:t>A</w:t></w:r><w:fldSimple w:instr=" PAGE ">)"
+      R"(<w:r><w:t>3</w:t></w:r></w:fldSimple><w:r><w:t>B</w:t></w:r></w:p></w:body></w:document>)");
+  package.SaveTo(dir / "simple.docx");
+  auto app = OpenDocx(dir / "simple.docx");
+  word::Document& doc = app->ActiveDocument();
+  EXPECT_EQ(doc.Content()->End(), 13);
+  EXPECT_EQ(doc.Content()->Text(), u"A3B\r");
+  doc.Fields().ToggleShowCodes();
+  EXPECT_EQ(doc.Content()->Text(),
+            u"A\x13 PAGE \x15"
+            u"B\r");
+  doc.Fields().Item(1)->Delete();
+  EXPECT_EQ(doc.Content()->Text(), u"AB\r");
+  EXPECT_EQ(doc.Fields().Count(), 0);
+}
+
+TEST(Positions, WordWrittenEqFieldsAreFoundByTheirCodes) {
+  struct Row {
+    const char* file;
+    int eqFields;
+  };
+  const Row rows[] = {
+      {"eq/aspose-generated-Field sample - EQ.docx", 13},
+      {"eq/openxmlsdk-STRICT-instrText-EQ-Array-AlignLeft.docx", 1},
+      {"eq/openxmlsdk-complex0-word2007.docx", 11},
+      {"eq/openxmlsdk-complex2010-word2010.docx", 11},
+      {"eq/poi-stress019-ja-enclosed-char.docx", 2},
+  };
+  for (const Row& r : rows) {
+    auto app = OpenDocx(testing::Corpus(r.file));
+    word::Document& doc = app->ActiveDocument();
+    doc.Content()->Fields().ToggleShowCodes();
+    int eq = 0;
+    for (long i = 1; i <= doc.Fields().Count(); ++i) {
+      std::u16string code = doc.Fields().Item(i)->Code()->Text();
+      size_t first = code.find_first_not_of(u' ');
+      if (first != std::u16string::npos &&
+          (code.compare(first, 2, u"EQ") == 0 || code.compare(first, 2, u"eq") == 0))
+        ++eq;
+    }
+    EXPECT_EQ(eq, r.eqFields) << r.file;
+  }
 }
 
 }  // namespace

@@ -30,7 +30,10 @@ std::vector<Piece> Capture(const Place& place) {
       pieces.push_back({nullptr, 1});
       continue;
     }
-    if (s.kind == SegKind::CellMark || s.kind == SegKind::RowEnd) continue;
+    // Marks of simple fields stay behind: their result comes as plain runs.
+    if (s.kind == SegKind::CellMark || s.kind == SegKind::RowEnd ||
+        std::strcmp(s.node.name(), "w:fldSimple") == 0)
+      continue;
     auto doc = std::make_shared<pugi::xml_document>();
     pugi::xml_node run = doc->append_child("w:r");
     pugi::xml_node source = s.node.parent();

@@ -333,6 +333,22 @@ void Story::DeleteSegmentPart(const Segment& s, long from, long to) {
   }
 }
 
+// A simple field goes only as a whole; its result text goes like any text.
+void Story::DeleteSimpleField(const Segment& begin, long start, long end) {
+  if (begin.kind != SegKind::FieldBegin || begin.pos < start) return;
+  for (const FieldSpan& f : Index().fields) {
+    if (f.begin != begin.node) continue;
+    if (f.endPos >= end) return;
+    break;
+  }
+  // What is left of it once its result went: begin, code, separator, end.
+  long left =
+      3 + static_cast<long>(SegmentText(index_.segments[index_.SegmentAt(begin.pos + 1)]).size());
+  pugi::xml_node node = begin.node;
+  node.parent().remove_child(node);
+  AdjustDelete(begin.pos, begin.pos + left);
+}
+
 bool Story::MergeParagraphAt(const Segment& mark) {
   pugi::xml_node p = mark.node;
   pugi::xml_node next = p.next_sibling();
@@ -360,6 +376,10 @@ void Story::Delete(long start, long end) {
     const Segment& s = *it;
     long from = std::max(start, s.pos), to = std::min(end, s.pos + s.length);
     if (s.kind == SegKind::CellMark || s.kind == SegKind::RowEnd) continue;
+    if (Is(s.node, "w:fldSimple")) {
+      DeleteSimpleField(s, start, end);
+      continue;
+    }
     if (s.kind == SegKind::ParaMark) {
       if (!MergeParagraphAt(s)) continue;
     } else {

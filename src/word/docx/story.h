@@ -72,6 +72,7 @@ class Story {
   // The segment at pos when it is inside a run (not a mark).
   std::optional<Segment> RunContentAt(long pos);
   void DeleteSegmentPart(const Segment& s, long from, long to);
+  void DeleteSimpleField(const Segment& begin, long start, long end);
   bool MergeParagraphAt(const Segment& mark);
   pugi::xml_node NewRunAt(long pos, pugi::xml_node rPr, bool code);
 

@@ -17,8 +17,8 @@ bool Is(pugi::xml_node n, const char* name) {
 // Elements whose children continue the text around them.
 bool IsTransparent(pugi::xml_node n) {
   static const char* const kNames[] = {
-      "w:hyperlink", "w:ins",       "w:del",        "w:moveTo", "w:moveFrom", "w:smartTag",
-      "w:customXml", "w:fldSimple", "w:sdtContent", "w:dir",    "w:bdo",
+      "w:hyperlink", "w:ins",       "w:del",        "w:moveTo", "w:moveFrom",
+      "w:smartTag",  "w:customXml", "w:sdtContent", "w:dir",    "w:bdo",
   };
   for (const char* name : kNames)
     if (Is(n, name)) return true;
@@ -107,6 +107,8 @@ class Builder {
       if (n.type() != pugi::node_element) continue;
       if (Is(n, "w:r")) {
         Run(n);
+      } else if (Is(n, "w:fldSimple")) {
+        SimpleField(n);
       } else if (IsTransparent(n)) {
         Inline(n);
       } else if (Is(n, "w:sdt")) {
@@ -185,6 +187,20 @@ class Builder {
     return false;
   }
 
+  // A simple field counts as Word counts any field: begin, code, separator,
+  // result, end.
+  void SimpleField(pugi::xml_node n) {
+    FieldSpan span{n, index_.length, -1, -1};
+    Add(n, SegKind::FieldBegin, 1, u'\x13');
+    Add(n, SegKind::SimpleCode, Utf16Length(n.attribute("w:instr").value()), 0);
+    span.sepPos = index_.length;
+    Add(n, SegKind::FieldSep, 1, u'\x14');
+    Inline(n);
+    span.endPos = index_.length;
+    Add(n, SegKind::FieldEnd, 1, u'\x15');
+    index_.fields.push_back(span);
+  }
+
   void FieldChar(pugi::xml_node n) {
     std::string type = n.attribute("w:fldCharType").value();
     if (type == "begin") {
@@ -231,6 +247,7 @@ void ApplyFieldDisplay(StoryIndex& index, const FieldDisplay& display) {
     } else {
       hide(field.beginPos + 1, field.endPos + 1);  // the begin mark stands for the field
     }
+    if (std::strcmp(field.begin.name(), "w:fldSimple") == 0) continue;  // no typing into it
     for (size_t i = index.SegmentAt(field.beginPos); i < index.segments.size(); ++i) {
       Segment& s = index.segments[i];
       if (s.pos >= codeEnd) break;
@@ -257,8 +274,9 @@ size_t StoryIndex::SegmentAt(long pos) const {
 
 char16_t StoryIndex::CharAt(long pos) const {
   const Segment& s = segments[SegmentAt(pos)];
-  if (s.kind != SegKind::Text && s.kind != SegKind::Code) return s.mark;
-  std::u16string text = NodeText(s.node);
+  if (s.kind != SegKind::Text && s.kind != SegKind::Code && s.kind != SegKind::SimpleCode)
+    return s.mark;
+  std::u16string text = SegmentText(s);
   size_t k = static_cast<size_t>(pos - s.pos);
   return k < text.size() ? text[k] : u' ';
 }
@@ -269,11 +287,11 @@ std::u16string StoryIndex::Text(long start, long end, bool withHidden) const {
   for (size_t i = SegmentAt(start); i < segments.size() && segments[i].pos < end; ++i) {
     const Segment& s = segments[i];
     if (s.hidden && !withHidden) continue;
-    if (s.kind != SegKind::Text && s.kind != SegKind::Code) {
+    if (s.kind != SegKind::Text && s.kind != SegKind::Code && s.kind != SegKind::SimpleCode) {
       out += s.mark;
       continue;
     }
-    std::u16string text = NodeText(s.node);
+    std::u16string text = SegmentText(s);
     long from = std::max(start, s.pos) - s.pos;
     long to = std::min(end, s.pos + s.length) - s.pos;
     if (to > static_cast<long>(text.size())) to = static_cast<long>(text.size());
@@ -301,6 +319,11 @@ StoryIndex BuildStoryIndex(pugi::xml_node container, const FieldDisplay& display
 
 std::u16string NodeText(pugi::xml_node element) {
   return lp::FromUtf8(element.text().get());
+}
+
+std::u16string SegmentText(const Segment& s) {
+  return s.kind == SegKind::SimpleCode ? lp::FromUtf8(s.node.attribute("w:instr").value())
+                                       : NodeText(s.node);
 }
 
 void SetNodeText(pugi::xml_node element, const std::u16string& text) {

@@ -13,14 +13,15 @@
 namespace word::docx {
 
 enum class SegKind : unsigned char {
-  Text,      // w:t, w:delText
-  Code,      // w:instrText, w:delInstrText
-  ParaMark,  // node is the w:p
-  CellMark,  // the last paragraph mark of a table cell
-  RowEnd,    // node is the w:tr
+  Text,        // w:t, w:delText
+  Code,        // w:instrText, w:delInstrText
+  SimpleCode,  // the code of a w:fldSimple, held in its w:instr attribute
+  ParaMark,    // node is the w:p
+  CellMark,    // the last paragraph mark of a table cell
+  RowEnd,      // node is the w:tr
   FieldBegin,
   FieldSep,
-  FieldEnd,  // node is the w:fldChar
+  FieldEnd,  // node is the w:fldChar, or the w:fldSimple of a simple field
   Tab,
   Break,
   Object,  // drawing, picture, equation, symbol, note reference
@@ -37,7 +38,7 @@ struct Segment {
 };
 
 struct FieldSpan {
-  pugi::xml_node begin;  // the w:fldChar of type begin
+  pugi::xml_node begin;  // the w:fldChar of type begin, or the w:fldSimple
   long beginPos = 0;
   long sepPos = -1;  // -1: no separator (EQ fields as Word writes them)
   long endPos = 0;
@@ -78,6 +79,8 @@ StoryIndex BuildStoryIndex(pugi::xml_node container, const FieldDisplay& display
 
 // UTF-16 view of an element's text.
 std::u16string NodeText(pugi::xml_node element);
+// The characters a text or code segment holds.
+std::u16string SegmentText(const Segment& s);
 void SetNodeText(pugi::xml_node element, const std::u16string& text);
 
 }  // namespace word::docx
