@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
 # Builds demo/worksheet.docx by running the finished tools one after another,
-# as a teacher would press their buttons, then a PDF when LibreOffice is there.
+# as a teacher would select text and press their buttons, then a PDF when
+# LibreOffice is there.
 set -euo pipefail
 build="${1:-build}"
 here="$(cd "$(dirname "$0")" && pwd)"
 lp="$build/src/app/lumenpad"
 doc="$here/worksheet.docx"
-rm -f "$doc"
+python3 "$here/seed_worksheet.py" "$doc" "$here/worksheet.txt"
 export QT_QPA_PLATFORM=offscreen
 for step in "$here"/steps/*.sh; do
   [ -f "$step" ] || continue

@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
-# The factorisation of 360, typed by the factoring dialog with raised exponents.
+# Factorisations typed by the factoring dialog at the caret, raised exponents included.
 set -euo pipefail
-"$LP" factoring --doc "$DOC" --set Text1=360 --click Command1 --click cmdInsert --click Command2
+for n in 360 2520; do
+  "$LP" factoring --doc "$DOC" --select "【分解$n】" --set Text1=$n --click Command1 --click cmdInsert --click Command2
+done
