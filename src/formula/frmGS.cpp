@@ -14,6 +14,12 @@
 #include "launcher/exit_lumenpad.h"
 #include "runtime/text.h"
 
+// The rule pictures are compiled into the UI library, a static library, whose
+// resources are registered only when asked for by name.
+static void LoadRulePictures() {
+  Q_INIT_RESOURCE(formula_img);
+}
+
 namespace lp {
 namespace {
 
@@ -33,6 +39,7 @@ bool Headless() {
 }  // namespace
 
 frmGS::frmGS(Session& session) : ui::Form(session) {
+  LoadRulePictures();
   setWindowTitle(QStringLiteral("单击下方蓝色文字可显示对应公式录入规则"));
   txtGS = new QLineEdit(this);
   txtGS->setObjectName(QStringLiteral("txtGS"));

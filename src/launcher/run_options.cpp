@@ -23,6 +23,8 @@ RunOptions ParseRunOptions(const std::vector<std::string>& args) {
       o.actions.push_back({ControlAction::kSet, v.substr(0, eq), v.substr(eq + 1)});
     } else if (a == "--click") {
       o.actions.push_back({ControlAction::kClick, value(), {}});
+    } else if (a == "--grab") {
+      o.actions.push_back({ControlAction::kGrab, {}, value()});
     } else if (a == "--answer") {
       o.answers.push_back(value());
     } else if (a == "--config") {

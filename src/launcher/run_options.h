@@ -1,7 +1,7 @@
 #pragma once
 // The command line of lumenpad:
 //   lumenpad WORD [--doc FILE] [--select TEXT] [--set NAME=VALUE]... [--click NAME]...
-//            [--answer VALUE]... [--config PATH]
+//            [--grab FILE.png]... [--answer VALUE]... [--config PATH]
 // Everything that is not an option is the command text, joined by blanks.
 
 #include <stdexcept>
@@ -12,9 +12,9 @@ namespace lp {
 
 // One step of the headless driver, applied to the open dialog in order.
 struct ControlAction {
-  enum Kind { kSet, kClick } kind = kSet;
+  enum Kind { kSet, kClick, kGrab } kind = kSet;
   std::string name;   // objectName; NAME_INDEX for a member of a control array
-  std::string value;  // what --set gives
+  std::string value;  // what --set gives, or the picture file of --grab
 };
 
 struct RunOptions {
@@ -25,7 +25,7 @@ struct RunOptions {
   std::vector<ControlAction> actions;
   std::vector<std::string> answers;
   std::string config;
-  // Any --set or --click: the dialog runs offscreen and its controls are driven.
+  // Any --set, --click or --grab: the dialog runs offscreen and its controls are driven.
   bool Driven() const { return !actions.empty(); }
 };
 

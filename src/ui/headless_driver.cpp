@@ -56,6 +56,10 @@ bool SetControl(QWidget& w, const QString& value) {
 }  // namespace
 
 void ApplyAction(QWidget& form, const ControlAction& action) {
+  if (action.kind == ControlAction::kGrab) {
+    if (!form.grab().save(Q(action.value))) throw DriverError("can't write " + action.value);
+    return;
+  }
   auto* w = form.findChild<QWidget*>(Q(action.name));
   if (!w) throw DriverError("the dialog has no control " + action.name);
   if (action.kind == ControlAction::kClick) {

@@ -46,8 +46,9 @@ unmatched_words)
     # ConfigWord created the settings: Document_Init ran before the end.
     [[ -e "$db" ]] || fail "Document_Init did not run for '$words'"
   done
+  before="$(md5sum < t.docx)"
   run dot test --doc t.docx
-  [[ ! -e t.docx ]] || fail "an unmatched word wrote the document"
+  [[ "$(md5sum < t.docx)" == "$before" ]] || fail "an unmatched word changed the document"
   ;;
 settings)
   run test --doc t.docx
