@@ -26,7 +26,7 @@ enum class How {
 struct CommandRow {
   std::u16string_view word;
   How how;
-  std::u16string_view form;   // the dialog of a kModeless or kModal row
+  std::u16string_view form;              // the dialog of a kModeless or kModal row
   void (*routine)(Session&, Frontend&);  // the tool of a kRoutine row
   bool built;
 };
@@ -35,7 +35,9 @@ struct CommandRow {
 inline void TestCommand(Session&, Frontend&) {}
 
 // Anything else ends the run.
-inline void ExitCommand(Session& session, Frontend&) { ExitLumenpad(session); }
+inline void ExitCommand(Session& session, Frontend&) {
+  ExitLumenpad(session);
+}
 
 inline constexpr std::array<CommandRow, 41> kCommandTable{{
     {u"test", How::kRoutine, {}, &TestCommand, true},

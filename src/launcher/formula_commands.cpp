@@ -37,6 +37,8 @@ void GsCommand(Session& session, Frontend& ui) {
   }
 }
 
-void MhgsCommand(Session& session, Frontend&) { RunMhgs(session); }
+void MhgsCommand(Session& session, Frontend&) {
+  RunMhgs(session);
+}
 
 }  // namespace lp

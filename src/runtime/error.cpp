@@ -2,9 +2,15 @@
 
 namespace lp {
 
-void RaiseOverflow() { throw RuntimeError(kOverflow, "Overflow"); }
-void RaiseTypeMismatch() { throw RuntimeError(kTypeMismatch, "Type mismatch"); }
-void RaiseDivisionByZero() { throw RuntimeError(kDivisionByZero, "Division by zero"); }
+void RaiseOverflow() {
+  throw RuntimeError(kOverflow, "Overflow");
+}
+void RaiseTypeMismatch() {
+  throw RuntimeError(kTypeMismatch, "Type mismatch");
+}
+void RaiseDivisionByZero() {
+  throw RuntimeError(kDivisionByZero, "Division by zero");
+}
 void RaiseInvalidProcedureCall() {
   throw RuntimeError(kInvalidProcedureCall, "Invalid procedure call or argument");
 }

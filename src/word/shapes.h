@@ -126,10 +126,10 @@ class Shapes {
   virtual std::unique_ptr<Shape> Item(const Text& name) = 0;
   virtual std::unique_ptr<ShapeRange> Range(const std::vector<Text>& names) = 0;
   virtual std::unique_ptr<Shape> AddLine(float beginX, float beginY, float endX, float endY) = 0;
-  virtual std::unique_ptr<Shape> AddShape(MsoAutoShapeType type, float left, float top,
-                                          float width, float height) = 0;
-  virtual std::unique_ptr<Shape> AddTextbox(MsoTextOrientation orientation, float left,
-                                            float top, float width, float height) = 0;
+  virtual std::unique_ptr<Shape> AddShape(MsoAutoShapeType type, float left, float top, float width,
+                                          float height) = 0;
+  virtual std::unique_ptr<Shape> AddTextbox(MsoTextOrientation orientation, float left, float top,
+                                            float width, float height) = 0;
   // Bezier curve through 3n+1 points: start, then two controls and an end per segment.
   virtual std::unique_ptr<Shape> AddCurve(const std::vector<PointF>& points) = 0;
   virtual std::unique_ptr<FreeformBuilder> BuildFreeform(MsoEditingType editing, float x1,

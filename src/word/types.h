@@ -126,6 +126,8 @@ enum WdRelativeVerticalPosition {
 };
 
 // Word colours are BGR packed in a long, as RGB() builds them.
-constexpr long RGB(int r, int g, int b) { return r | (g << 8) | (b << 16); }
+constexpr long RGB(int r, int g, int b) {
+  return r | (g << 8) | (b << 16);
+}
 
 }  // namespace word
