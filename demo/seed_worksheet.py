@@ -57,10 +57,10 @@ def document(lines):
             f'<w:document xmlns:w="{W}"><w:body>{body}{sect}</w:body></w:document>')
 
 
-def main(path, spec_path):
+def main(path, outline_path):
     lines = []
-    with open(spec_path, encoding="utf-8") as spec:
-        for raw in spec:
+    with open(outline_path, encoding="utf-8") as outline:
+        for raw in outline:
             raw = raw.rstrip("\n")
             if raw.startswith("# "):
                 lines.append((raw[2:], True))
