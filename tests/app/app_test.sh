@@ -2,6 +2,7 @@
 # app_test.sh CHECK LUMENPAD LUMENPADSETUP: one end-to-end check of a run.
 set -euo pipefail
 check="$1" lp="$2" setup="$3"
+here="$(cd "$(dirname "$0")" && pwd)"
 work="$(mktemp -d)"
 trap 'rm -rf "$work"' EXIT
 cd "$work"
@@ -11,6 +12,21 @@ fail() { echo "FAIL: $*" >&2; exit 1; }
 body() { unzip -p "$1" word/document.xml; }
 text() { body "$1" | sed 's/<[^>]*>//g'; }
 run() { "$lp" "$@" --config "$db"; }
+dump() { python3 "$here/docx_dump.py" "$@"; }
+# seed FILE LINE...: a document holding the lines, as a teacher typed them.
+seed() {
+  local out="$1"
+  shift
+  printf '%s\n' "$@" > lines.txt
+  python3 "$here/../../demo/seed_worksheet.py" "$out" lines.txt
+}
+setting() {
+  [[ -e "$db" ]] || "$lp" --eq x --config "$db" < /dev/null > /dev/null
+  sqlite3 "$db" "UPDATE config SET blvalue = $2 WHERE cName = '$1'"
+}
+# The characters that carry a size, and those that carry a font or slant.
+sized() { dump chars "$1" | awk -F'\t' '$4 != "-" { printf "%s:%s ", $1, $4 }'; }
+styled() { dump chars "$1" | awk -F'\t' '$2 $3 != "--" { printf "%s:%s:%s ", $1, $2, $3 }'; }
 
 case "$check" in
 factoring)
@@ -78,6 +94,54 @@ bad_file)
   [[ $status == 2 ]] || fail "status $status for a refused file"
   [[ -n "$out" ]] || fail "no message for a refused file"
   [[ "$(cat bad.docx)" == "plain text" ]] || fail "the refused file was changed"
+  ;;
+gs_eq)
+  seed t.docx "计算 x^2/2 的值"
+  run gs --doc t.docx --select "x^2/2"
+  # The font pass takes the field code's last blank away.
+  [[ "$(dump text t.docx)" == '计算 { EQ \F(x\S(2),2)} 的值' ]] || fail "field: $(dump text t.docx)"
+  # Only the script shrinks: 70 percent of 10.5 pt, cut to 7 pt.
+  [[ "$(sized t.docx)" == '\:14 S:14 (:14 2:14 ):14 ' ]] || fail "script sizes: $(sized t.docx)"
+  seed s.docx "x a^2;b^2 y"
+  run gs --doc s.docx --select "a^2;b^2"
+  [[ "$(dump text s.docx)" == 'x { EQ a\S(2)} { EQ b\S(2)}  y' ]] || fail "split: $(dump text s.docx)"
+  setting EmbellishFormula 0
+  seed p.docx "计算 x^2/2 的值"
+  run gs --doc p.docx --select "x^2/2"
+  [[ "$(dump text p.docx)" == '计算 { EQ \F(x\S(2),2) } 的值' ]] || fail "plain: $(dump text p.docx)"
+  ;;
+gs_tex)
+  setting blMathType -1
+  seed t.docx "计算 (a+b)/(c+d) 的值"
+  run gs --doc t.docx --select "(a+b)/(c+d)"
+  [[ "$(body t.docx)" == *'<m:oMath><m:f><m:num>'*'</m:num><m:den>'*'</m:den></m:f></m:oMath>'* ]] ||
+    fail "no native fraction: $(body t.docx)"
+  [[ "$(dump text t.docx)" == '计算 «a+bc+d» 的值' ]] || fail "text: $(dump text t.docx)"
+  ;;
+gs_timeout)
+  setting blMathType -1
+  seed t.docx "弧 hu(AB) 长"
+  # The caret is stored first, so that only gs could change the file.
+  run test --doc t.docx --select "hu(AB)"
+  cp t.docx before.docx
+  set +e
+  out="$(timeout 30 "$lp" gs --doc t.docx --select "hu(AB)" --config "$db" 2>&1)"
+  status=$?
+  set -e
+  [[ $status == 3 ]] || fail "status $status for a formula that never ends"
+  [[ "$out" == *"公式转换超时，文档没有改动。"* ]] || fail "no message: $out"
+  cmp -s t.docx before.docx || fail "the document changed"
+  ;;
+mhgs)
+  seed t.docx "已知 x+y=1 求解"
+  run mhgs --doc t.docx --select "x+y=1"
+  [[ "$(dump text t.docx)" == '已知 x＋y＝1 求解' ]] || fail "signs: $(dump text t.docx)"
+  expected='x:Times New Roman:i y:Times New Roman:i 1:Times New Roman:upright '
+  [[ "$(styled t.docx)" == "$expected" ]] || fail "fonts: $(styled t.docx)"
+  # Again over the stored selection: no sign is left to replace.
+  before="$(body t.docx)"
+  run mhgs --doc t.docx
+  [[ "$(body t.docx)" == "$before" ]] || fail "a second run changed the formula"
   ;;
 *)
   fail "unknown check $check"
