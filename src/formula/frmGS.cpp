@@ -55,6 +55,11 @@ frmGS::frmGS(Session& session) : ui::Form(session) {
 
   auto* grid = new QGridLayout(this);
   grid->addWidget(txtGS, 0, 0, 1, 4);
+  // The links sit in two rows of four, close together as a line of text.
+  auto* links = new QGridLayout;
+  links->setHorizontalSpacing(16);
+  links->setColumnStretch(4, 1);
+  grid->addLayout(links, 1, 0, 2, 4);
   for (int i = 0; i <= 8; ++i) {
     const GsRule* rule = GsRuleAt(i);
     lbhelp[i] = new QLabel(rule ? Q(rule->link) : Q(kGsHelpStart), this);
@@ -63,7 +68,7 @@ frmGS::frmGS(Session& session) : ui::Form(session) {
     lbhelp[i]->setStyleSheet(QStringLiteral("color: blue; text-decoration: underline;"));
     lbhelp[i]->setCursor(Qt::PointingHandCursor);
     lbhelp[i]->installEventFilter(this);
-    grid->addWidget(lbhelp[i], 1 + (i - 1) / 4, (i - 1) % 4);
+    links->addWidget(lbhelp[i], (i - 1) / 4, (i - 1) % 4);
   }
   lbhelp[0]->setWordWrap(true);
   grid->addWidget(lbhelp[0], 3, 0, 1, 2);

@@ -1,5 +1,6 @@
 #include "word/docx/relationships.h"
 
+#include <cctype>
 #include <cstring>
 
 #include <pugixml.hpp>
@@ -37,8 +38,14 @@ void SetAttribute(pugi::xml_node node, const char* name, const std::string& valu
   a.set_value(value.c_str());
 }
 
-bool SameNoCase(const char* a, const std::string& b) {
-  return strcasecmp(a, b.c_str()) == 0;
+// Part names compare without regard to case.
+bool SameName(const std::string& a, const std::string& b) {
+  if (a.size() != b.size()) return false;
+  for (size_t i = 0; i < a.size(); ++i)
+    if (std::tolower(static_cast<unsigned char>(a[i])) !=
+        std::tolower(static_cast<unsigned char>(b[i])))
+      return false;
+  return true;
 }
 
 }  // namespace
@@ -70,8 +77,9 @@ std::string PutRelationship(Package& package, const std::string& part, std::stri
                             const std::string& type, const std::string& target, bool external) {
   const std::string relsPart = RelsPartOf(part);
   pugi::xml_document doc;
-  if (!LoadPart(package, relsPart, doc, kNewRels)) doc.load_string(kNewRels);
-  pugi::xml_node root = doc.child("Relationships");
+  pugi::xml_node root;
+  if (LoadPart(package, relsPart, doc, kNewRels)) root = doc.child("Relationships");
+  if (!root) return std::string();  // a damaged part is left as it is
   if (id.empty()) id = FreshId(root);
   pugi::xml_node r = FindById(root, id);
   if (!r) {
@@ -95,7 +103,7 @@ void AddContentTypeOverride(Package& package, const std::string& part,
   pugi::xml_node types = doc.child("Types");
   const std::string name = "/" + part;
   for (pugi::xml_node o : types.children("Override"))
-    if (SameNoCase(o.attribute("PartName").value(), name)) return;
+    if (SameName(o.attribute("PartName").value(), name)) return;
   pugi::xml_node o = types.append_child("Override");
   SetAttribute(o, "PartName", name);
   SetAttribute(o, "ContentType", contentType);

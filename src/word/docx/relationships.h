@@ -17,7 +17,8 @@ std::string RelationshipTarget(const Package& package, const std::string& part,
 std::string RelationshipTargetById(const Package& package, const std::string& part,
                                    const std::string& id);
 // Points part's relationship id at target, adding the relationship (under a
-// fresh Id when id is empty) if it is missing. Returns the Id.
+// fresh Id when id is empty) if it is missing. Returns the Id, or nothing
+// when the relationship part is damaged.
 std::string PutRelationship(Package& package, const std::string& part, std::string id,
                             const std::string& type, const std::string& target, bool external);
 // Gives part its own content type unless [Content_Types].xml names it already.
