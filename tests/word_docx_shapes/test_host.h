@@ -25,6 +25,10 @@ class TestHost : public word::docx::DocxHost {
   }
   unsigned NextDrawingId() override { return ++lastId; }
   void MarkChanged() override { ++changes; }
+  pugi::xml_node InsertAnchorRun(pugi::xml_node paragraph, const pugi::xml_node& run) override {
+    return paragraph.append_copy(run);
+  }
+  void RemoveAnchorRun(pugi::xml_node node) override { node.parent().remove_child(node); }
   std::unique_ptr<word::Range> StoryRange(pugi::xml_node txbxContent) override {
     lastStory = txbxContent;
     return nullptr;

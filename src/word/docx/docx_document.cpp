@@ -5,6 +5,7 @@
 
 #include "runtime/utf8.h"
 #include "word/docx/docx_error.h"
+#include "word/docx/relationships.h"
 #include "word/docx/selection.h"
 #include "word/docx/xml_part.h"
 
@@ -12,21 +13,6 @@ namespace word::docx {
 namespace {
 
 const char* const kCaretBookmark = "_lpCaret";
-
-std::string RelationshipTarget(const Package& package, const std::string& part,
-                               const char* typeSuffix) {
-  auto rels = package.Read(RelsPartOf(part));
-  pugi::xml_document doc;
-  if (!rels || !ParseXml(*rels, doc)) return std::string();
-  for (pugi::xml_node r : doc.child("Relationships").children("Relationship")) {
-    std::string type = r.attribute("Type").value();
-    size_t n = std::strlen(typeSuffix);
-    if (type.size() >= n && type.compare(type.size() - n, n, typeSuffix) == 0 &&
-        std::strcmp(r.attribute("TargetMode").value(), "External") != 0)
-      return ResolveTarget(part, r.attribute("Target").value());
-  }
-  return std::string();
-}
 
 class DocxPageSetup : public word::PageSetup {
  public:
@@ -107,6 +93,7 @@ std::string MainDocumentPart(const Package& package) {
 DocxDocument::DocxDocument(Package package, std::filesystem::path file)
     : package_(std::move(package)), file_(std::move(file)) {
   mainPart_ = MainDocumentPart(package_);
+  settings_ = std::make_unique<DocumentSettings>(package_, mainPart_);
   auto bytes = package_.Read(mainPart_);
   if (!bytes) throw DocxFileError("文件不是 Word 文档：找不到正文部分。");
   if (!ParseXml(*bytes, xml_)) throw DocxFileError("文件已损坏：正文无法读取。");
@@ -186,17 +173,18 @@ void DocxDocument::StoreCaret() {
 
 bool DocxDocument::SaveIfChanged() {
   StoreCaret();
-  if (!changed_ && !coreChanged_) return false;
+  if (!changed_ && !coreChanged_ && !settings_->Changed()) return false;
   SaveTo(file_);
   RemoveCaretMarkers();
   return true;
 }
 
 void DocxDocument::SaveTo(const std::filesystem::path& file) {
-  if (changed_ || !package_.Written(mainPart_)) package_.Write(mainPart_, SerializeXml(xml_));
+  if (changed_) package_.Write(mainPart_, SerializeXml(xml_));
   if (coreChanged_) package_.Write("docProps/core.xml", SerializeXml(coreXml_));
   package_.SaveTo(file);
   changed_ = coreChanged_ = false;
+  settings_->Saved();
 }
 
 Text DocxDocument::FullName() const {
@@ -253,27 +241,23 @@ std::pair<long, long> DocxDocument::CaretPage() {
 }
 
 std::unique_ptr<Template> DocxDocument::AttachedTemplate() {
-  if (!attachedTemplate_.empty()) return std::make_unique<DocxTemplate>(attachedTemplate_);
-  std::string settings = RelationshipTarget(package_, mainPart_, "/settings");
-  std::string target;
-  if (auto rels = package_.Read(RelsPartOf(settings.empty() ? "word/settings.xml" : settings))) {
-    pugi::xml_document doc;
-    if (ParseXml(*rels, doc))
-      for (pugi::xml_node r : doc.child("Relationships").children("Relationship"))
-        if (std::string(r.attribute("Type").value()).find("attachedTemplate") != std::string::npos)
-          target = r.attribute("Target").value();
-  }
-  return std::make_unique<DocxTemplate>(lp::FromUtf8(target.empty() ? "Normal.dotm" : target));
+  std::string path = settings_->AttachedTemplate();
+  return std::make_unique<DocxTemplate>(lp::FromUtf8(path.empty() ? "Normal.dotm" : path));
 }
 
-// The template and the font-embedding options live with Word, not with the
-// worksheet: they are kept for this run only.
 void DocxDocument::SetAttachedTemplate(const Text& path) {
-  attachedTemplate_ = path;
+  settings_->SetAttachedTemplate(lp::ToUtf8(path));
 }
-void DocxDocument::SetEmbedTrueTypeFonts(bool) {}
-void DocxDocument::SetSaveSubsetFonts(bool) {}
-void DocxDocument::SetDoNotEmbedSystemFonts(bool) {}
+void DocxDocument::SetEmbedTrueTypeFonts(bool on) {
+  settings_->SetEmbedTrueTypeFonts(on);
+}
+void DocxDocument::SetSaveSubsetFonts(bool on) {
+  settings_->SetSaveSubsetFonts(on);
+}
+void DocxDocument::SetDoNotEmbedSystemFonts(bool on) {
+  settings_->SetDoNotEmbedSystemFonts(on);
+}
+// Snapping to the grid and to shapes is not kept in the file.
 void DocxDocument::SetSnapToGrid(bool) {}
 void DocxDocument::SetSnapToShapes(bool) {}
 
@@ -339,6 +323,18 @@ void DocxDocument::MarkChanged() {
   changed_ = true;
   main_->Invalidate();
   for (auto& [node, story] : boxes_) story->Invalidate();
+}
+
+// Anchors live in the body only: text boxes take no floating shapes. The
+// index is made again first, as the shape layer may have added the paragraph.
+pugi::xml_node DocxDocument::InsertAnchorRun(pugi::xml_node paragraph, const pugi::xml_node& run) {
+  main_->Invalidate();
+  return main_->AppendObjectRun(paragraph, run);
+}
+
+void DocxDocument::RemoveAnchorRun(pugi::xml_node node) {
+  main_->Invalidate();
+  main_->RemoveRunLevel(node);
 }
 
 std::unique_ptr<word::Range> DocxDocument::StoryRange(pugi::xml_node txbxContent) {

@@ -13,6 +13,7 @@
 #include <pugixml.hpp>
 
 #include "word/api.h"
+#include "word/docx/document_settings.h"
 #include "word/docx/docx_host.h"
 #include "word/docx/layout_estimate.h"
 #include "word/docx/package.h"
@@ -65,6 +66,8 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   pugi::xml_node CaretParagraph() override;
   unsigned NextDrawingId() override;
   void MarkChanged() override;
+  pugi::xml_node InsertAnchorRun(pugi::xml_node paragraph, const pugi::xml_node& run) override;
+  void RemoveAnchorRun(pugi::xml_node node) override;
   std::unique_ptr<word::Range> StoryRange(pugi::xml_node txbxContent) override;
   void SelectShapes(const std::vector<pugi::xml_node>& anchors, bool replace) override;
   std::vector<pugi::xml_node> SelectedShapes() override { return selectedShapes_; }
@@ -105,6 +108,7 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   mutable pugi::xml_document coreXml_;
   mutable bool coreLoaded_ = false;
   bool coreChanged_ = false;
+  std::unique_ptr<DocumentSettings> settings_;
   StyleSheet styles_;
   std::unique_ptr<Story> main_;
   std::map<const void*, std::unique_ptr<Story>> boxes_;
@@ -117,7 +121,6 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   std::unique_ptr<word::Shapes> shapes_;
   std::vector<pugi::xml_node> selectedShapes_;
   std::optional<std::pair<long, long>> storedCaret_;
-  Text attachedTemplate_;
   unsigned nextDrawingId_ = 0;
   bool changed_ = false;
 };

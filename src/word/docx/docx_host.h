@@ -21,6 +21,14 @@ class DocxHost {
   // A fresh id for wp:docPr, unique in the document.
   virtual unsigned NextDrawingId() = 0;
   virtual void MarkChanged() = 0;
+  // Every run holding an anchor comes and goes through these two, so that the
+  // text engine moves its ranges and the selection over the position it holds.
+  // Appends a copy of `run` (a run holding one anchor) to the paragraph and
+  // returns the copy.
+  virtual pugi::xml_node InsertAnchorRun(pugi::xml_node paragraph, const pugi::xml_node& run) = 0;
+  // Takes out a run holding an anchor, or the anchor's element inside a run
+  // that holds more.
+  virtual void RemoveAnchorRun(pugi::xml_node node) = 0;
   // The whole story of a text box (a w:txbxContent element) as a range.
   virtual std::unique_ptr<word::Range> StoryRange(pugi::xml_node txbxContent) = 0;
   // Shape.Select: the selection becomes these shapes (the wp:anchor elements).

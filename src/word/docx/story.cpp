@@ -231,6 +231,41 @@ pugi::xml_node Story::InsertMarker(long pos, const char* name) {
   return InsertInline(pos, scratch.first_child(), 0);
 }
 
+pugi::xml_node Story::AppendObjectRun(pugi::xml_node paragraph, const pugi::xml_node& run) {
+  const StoryIndex& ix = Index();
+  auto mark = std::find_if(ix.segments.begin(), ix.segments.end(),
+                           [&](const Segment& s) { return s.node == paragraph && IsMark(s.kind); });
+  const long pos = mark == ix.segments.end() ? -1 : mark->pos;
+  pugi::xml_document format;
+  if (pos >= 0 && !run.child("w:rPr"))
+    TypedRunProperties({FormatSourceAt(pos), {}}, format.append_child("w:rPr"));
+  pugi::xml_node placed = paragraph.append_copy(run);
+  if (format.first_child().first_child()) placed.prepend_copy(format.first_child());
+  Changed();
+  if (pos >= 0) AdjustInsert(pos, 1);
+  return placed;
+}
+
+void Story::RemoveRunLevel(pugi::xml_node node) {
+  auto holds = [&](pugi::xml_node n) {
+    for (; n && n != container_; n = n.parent())
+      if (n == node) return true;
+    return false;
+  };
+  long start = -1, end = -1;
+  for (const Segment& s : Index().segments) {
+    if (holds(s.node)) {
+      if (start < 0) start = s.pos;
+      end = s.pos + s.length;
+    } else if (start >= 0) {
+      break;
+    }
+  }
+  node.parent().remove_child(node);
+  Changed();
+  if (start >= 0) AdjustDelete(start, end);
+}
+
 pugi::xml_node Story::FormatSourceAt(long pos) {
   const StoryIndex& ix = Index();
   if (ix.length == 0) return {};

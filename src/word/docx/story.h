@@ -58,6 +58,12 @@ class Story {
   void TextToCode(long start, long end);
   // Inserts a zero-width element (bookmark start or end) at pos.
   pugi::xml_node InsertMarker(long pos, const char* name);
+  // Appends a copy of a run holding one object (a floating shape's anchor) to
+  // the paragraph, before its mark. Without a format of its own the run takes
+  // the one text typed there would take, which text typed after it continues.
+  pugi::xml_node AppendObjectRun(pugi::xml_node paragraph, const pugi::xml_node& run);
+  // Takes out a run-level node with the positions it holds.
+  void RemoveRunLevel(pugi::xml_node node);
 
   // The run-level node that starts with the position, after splitting.
   pugi::xml_node SplitBefore(long pos);

@@ -129,7 +129,7 @@ pugi::xml_node RunOf(pugi::xml_node anchor) {
   return node;
 }
 
-void RemoveAnchor(pugi::xml_node anchor) {
+void RemoveAnchor(DocxHost& host, pugi::xml_node anchor) {
   pugi::xml_node content = anchor.parent();  // w:drawing
   if (Is(content.parent(), "mc:Choice")) content = content.parent().parent();
   pugi::xml_node run = RunOf(anchor);
@@ -137,11 +137,7 @@ void RemoveAnchor(pugi::xml_node anchor) {
   for (pugi::xml_node child : run.children()) {
     if (child != content && !Is(child, "w:rPr")) alone = false;
   }
-  if (run && alone) {
-    run.parent().remove_child(run);
-  } else {
-    content.parent().remove_child(content);
-  }
+  host.RemoveAnchorRun(run && alone ? run : content);
 }
 
 void DropFallback(pugi::xml_node anchor) {

@@ -9,6 +9,7 @@
 
 #include <pugixml.hpp>
 
+#include "word/docx/docx_host.h"
 #include "word/types.h"
 
 namespace word::docx::drawing {
@@ -49,7 +50,7 @@ pugi::xml_node TransformOf(pugi::xml_node shape);
 pugi::xml_node RunOf(pugi::xml_node anchor);
 
 // Takes the anchor out of the document, with its run when nothing else is in it.
-void RemoveAnchor(pugi::xml_node anchor);
+void RemoveAnchor(DocxHost& host, pugi::xml_node anchor);
 
 // A shape that this layer changes no longer matches its VML fallback; Word
 // reads the wps choice, so the stale fallback goes.

@@ -98,7 +98,7 @@ pugi::xml_node GroupAnchors(DocxHost& host, const std::vector<pugi::xml_node>& a
   if (Is(choice, "mc:Choice")) SetAttr(choice, "Requires", "wpg");
   DropFallback(anchor);
   first.parent().remove_child(first);
-  for (size_t i = 1; i < anchors.size(); ++i) RemoveAnchor(anchors[i]);
+  for (size_t i = 1; i < anchors.size(); ++i) RemoveAnchor(host, anchors[i]);
   ReplaceInSelection(host, anchors, anchor);
   host.MarkChanged();
   return anchor;

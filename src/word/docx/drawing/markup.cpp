@@ -126,9 +126,9 @@ pugi::xml_node InsertAnchor(DocxHost& host, const Frame& frame, GraphicKind kind
                           "</w:drawing></mc:Choice></mc:AlternateContent></w:r>";
   pugi::xml_document parsed;
   parsed.load_string(run.c_str());
-  // At the end of the paragraph the anchor shifts no position before it, the
-  // caret's included, and the shapes keep the order in which they were added.
-  const pugi::xml_node inserted = AnchorParagraph(host).append_copy(parsed.first_child());
+  // At the end of the paragraph the anchor shifts no text before it, and the
+  // shapes keep the order in which they were added.
+  const pugi::xml_node inserted = host.InsertAnchorRun(AnchorParagraph(host), parsed.first_child());
   pugi::xml_node anchor =
       inserted.first_element_by_path("mc:AlternateContent/mc:Choice/w:drawing/wp:anchor");
   NameByPrefix(anchor, namePrefix);

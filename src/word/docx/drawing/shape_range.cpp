@@ -107,7 +107,7 @@ void AnchorRange::SetRelativeVerticalPosition(WdRelativeVerticalPosition to) {
 
 void AnchorRange::Delete() {
   shapes_.First();
-  for (pugi::xml_node anchor : shapes_.Anchors()) RemoveAnchor(anchor);
+  for (pugi::xml_node anchor : shapes_.Anchors()) RemoveAnchor(shapes_.Host(), anchor);
   ReplaceInSelection(shapes_.Host(), shapes_.Anchors());
   shapes_.Reset({});
   shapes_.Host().MarkChanged();
