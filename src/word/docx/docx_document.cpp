@@ -100,7 +100,7 @@ DocxDocument::DocxDocument(Package package, std::filesystem::path file)
   pugi::xml_node body = xml_.child("w:document").child("w:body");
   if (!body) throw DocxFileError("文件不是 Word 文档：正文中没有内容部分。");
   LoadStyles();
-  main_ = std::make_unique<Story>(body, *this);
+  main_ = std::make_shared<Story>(body, *this);
   fieldsPlace_ = MakePlace(*main_, 0, 0);
   fields_ = std::make_unique<RangeFields>(fieldsPlace_, true);
   RestoreCaret();
@@ -195,7 +195,7 @@ Place DocxDocument::MakePlace(Story& story, long start, long end) {
   long length = story.Length();
   start = std::clamp(start, 0L, length);
   end = std::clamp(end, start, length);
-  return Place{this, &story, story.Track(start, end)};
+  return Place{this, story.shared_from_this(), story.Track(start, end)};
 }
 
 std::unique_ptr<word::Range> DocxDocument::Range(long start, long end) {
@@ -337,9 +337,24 @@ void DocxDocument::RemoveAnchorRun(pugi::xml_node node) {
   main_->RemoveRunLevel(node);
 }
 
+// What leaves with the node: the stories of its text boxes (a selection in
+// one moves out to where the node stood) and the display state of its fields,
+// whose addresses pugixml may hand to new nodes.
+void DocxDocument::Removing(Story& story, long pos, pugi::xml_node node) {
+  for (const pugi::xpath_node& x : node.select_nodes("descendant-or-self::w:txbxContent")) {
+    auto box = boxes_.find(x.node().internal_object());
+    if (box == boxes_.end()) continue;
+    if (&selection_->CurrentStory() == box->second.get()) selection_->SetPlace(story, pos, pos);
+    box->second->Drop();
+    boxes_.erase(box);
+  }
+  for (const pugi::xpath_node& x : node.select_nodes("descendant-or-self::w:fldChar"))
+    showCodes_.erase(x.node().internal_object());
+}
+
 std::unique_ptr<word::Range> DocxDocument::StoryRange(pugi::xml_node txbxContent) {
   auto& story = boxes_[txbxContent.internal_object()];
-  if (!story) story = std::make_unique<Story>(txbxContent, *this);
+  if (!story) story = std::make_shared<Story>(txbxContent, *this);
   story->Invalidate();
   long length = story->Length();
   return std::make_unique<DocxRange>(MakePlace(*story, 0, std::max(0L, length - 1)));

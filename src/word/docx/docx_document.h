@@ -28,10 +28,16 @@ class RangeFields;
 // What a range refers to: a story and a live span in it.
 struct Place {
   class DocxDocument* doc = nullptr;
-  Story* story = nullptr;
+  std::shared_ptr<Story> story;
   std::shared_ptr<Span> span;
-  long Start() const { return span->start; }
-  long End() const { return span->end; }
+  long Start() const {
+    story->CheckLive();
+    return span->start;
+  }
+  long End() const {
+    story->CheckLive();
+    return span->end;
+  }
 };
 
 class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
@@ -75,6 +81,7 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   // StoryOwner
   bool ShowsCode(pugi::xml_node beginFldChar) const override;
   void StoryChanged() override { changed_ = true; }
+  void Removing(Story& story, long pos, pugi::xml_node node) override;
 
   DocxSelection& Selection() { return *selection_; }
   Story& MainStory() { return *main_; }
@@ -110,8 +117,8 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   bool coreChanged_ = false;
   std::unique_ptr<DocumentSettings> settings_;
   StyleSheet styles_;
-  std::unique_ptr<Story> main_;
-  std::map<const void*, std::unique_ptr<Story>> boxes_;
+  std::shared_ptr<Story> main_;
+  std::map<const void*, std::shared_ptr<Story>> boxes_;
   std::unordered_set<const void*> showCodes_;
   std::unique_ptr<DocxSelection> selection_;
   Place fieldsPlace_;

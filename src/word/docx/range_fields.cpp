@@ -92,29 +92,29 @@ void RangeFields::ToggleShowCodes() {
 }
 
 FieldSpan FieldImpl::Span() const {
-  return SpanOf(story_, begin_);
+  return SpanOf(*story_, begin_);
 }
 
 std::unique_ptr<word::Range> FieldImpl::Code() {
   FieldSpan f = Span();
   long end = f.sepPos >= 0 ? f.sepPos : f.endPos;
-  return std::make_unique<DocxRange>(doc_.MakePlace(story_, f.beginPos + 1, end));
+  return std::make_unique<DocxRange>(doc_.MakePlace(*story_, f.beginPos + 1, end));
 }
 
 std::unique_ptr<word::Range> FieldImpl::Result() {
   FieldSpan f = Span();
   long start = f.sepPos >= 0 ? f.sepPos + 1 : f.endPos;
-  return std::make_unique<DocxRange>(doc_.MakePlace(story_, start, f.endPos));
+  return std::make_unique<DocxRange>(doc_.MakePlace(*story_, start, f.endPos));
 }
 
 void FieldImpl::Select() {
   FieldSpan f = Span();
-  doc_.Selection().SetPlace(story_, f.beginPos, f.endPos + 1);
+  doc_.Selection().SetPlace(*story_, f.beginPos, f.endPos + 1);
 }
 
 void FieldImpl::Delete() {
   FieldSpan f = Span();
-  story_.Delete(f.beginPos, f.endPos + 1);
+  story_->Delete(f.beginPos, f.endPos + 1);
 }
 
 }  // namespace word::docx

@@ -41,22 +41,27 @@ class RangeImpl : public Base, public PlaceHolder {
     place_.span->end = start + static_cast<long>(text.size());
   }
   word::Font& Font() override {
+    place_.story->CheckLive();
     if (!font_) font_ = std::make_unique<RangeFont>(place_, nullptr);
     return *font_;
   }
   word::ParagraphFormat& ParagraphFormat() override {
+    place_.story->CheckLive();
     if (!paragraphFormat_) paragraphFormat_ = std::make_unique<RangeParagraphFormat>(place_);
     return *paragraphFormat_;
   }
   word::Fields& Fields() override {
+    place_.story->CheckLive();
     if (!fields_) fields_ = std::make_unique<RangeFields>(place_, false);
     return *fields_;
   }
   word::Characters& Characters() override {
+    place_.story->CheckLive();
     if (!characters_) characters_ = std::make_unique<RangeCharacters>(place_);
     return *characters_;
   }
   word::Find& Find() override {
+    place_.story->CheckLive();
     if (!find_) find_ = std::make_unique<RangeFind>(place_);
     return *find_;
   }
@@ -69,6 +74,7 @@ class RangeImpl : public Base, public PlaceHolder {
     place_.span->end = end + static_cast<long>(text.size());
   }
   void Collapse(WdCollapseDirection direction) override {
+    place_.story->CheckLive();
     if (direction == wdCollapseStart)
       place_.span->end = place_.span->start;
     else

@@ -152,7 +152,7 @@ class RangeFind : public word::Find {
 class FieldImpl : public word::Field {
  public:
   FieldImpl(DocxDocument& doc, Story& story, pugi::xml_node begin)
-      : doc_(doc), story_(story), begin_(begin) {}
+      : doc_(doc), story_(story.shared_from_this()), begin_(begin) {}
   std::unique_ptr<word::Range> Code() override;
   std::unique_ptr<word::Range> Result() override;
   void Select() override;
@@ -161,7 +161,7 @@ class FieldImpl : public word::Field {
  private:
   FieldSpan Span() const;
   DocxDocument& doc_;
-  Story& story_;
+  std::shared_ptr<Story> story_;
   pugi::xml_node begin_;
 };
 

@@ -19,7 +19,7 @@ bool IsWordChar(char16_t c) {
 }  // namespace
 
 void DocxSelection::SetPlace(Story& story, long start, long end) {
-  if (&story != place_.story) place_ = place_.doc->MakePlace(story, start, end);
+  if (&story != place_.story.get()) place_ = place_.doc->MakePlace(story, start, end);
   place_.span->start = std::min(start, end);
   place_.span->end = std::max(start, end);
   activeAtStart_ = false;
@@ -28,7 +28,7 @@ void DocxSelection::SetPlace(Story& story, long start, long end) {
 }
 
 void DocxSelection::LeaveHiddenCodes(Story& story, const std::vector<FieldSpan>& fields) {
-  if (&story != place_.story) return;
+  if (&story != place_.story.get()) return;
   for (const FieldSpan& f : fields) {
     for (long* end : {&place_.span->start, &place_.span->end})
       if (*end > f.beginPos && *end <= f.endPos) *end = f.endPos + 1;
@@ -173,7 +173,7 @@ void DocxSelection::InsertSymbol(long characterNumber, const word::Text& font, b
 
 double DocxSelection::Information(WdInformation type) {
   auto& doc = *place_.doc;
-  long pos = place_.story == &doc.MainStory() ? Start() : 0;
+  long pos = place_.story.get() == &doc.MainStory() ? Start() : 0;
   CaretEstimate caret = EstimateCaret(doc.MainStory().Index(), doc.Styles(), doc.Geometry(), pos);
   return type == wdHorizontalPositionRelativeToPage ? caret.x : caret.y;
 }

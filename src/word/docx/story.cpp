@@ -115,7 +115,19 @@ void FillRun(pugi::xml_node run, const std::u16string& piece, const char* elemen
 
 }  // namespace
 
+void Story::Drop() {
+  dropped_ = true;
+  container_ = pugi::xml_node();
+  index_ = StoryIndex();
+  stale_ = false;
+}
+
+void Story::CheckLive() const {
+  if (dropped_) throw ComError(5825, "对象已被删除。");
+}
+
 const StoryIndex& Story::Index() {
+  CheckLive();
   if (stale_) {
     index_ = BuildStoryIndex(container_, owner_);
     stale_ = false;
@@ -261,6 +273,7 @@ void Story::RemoveRunLevel(pugi::xml_node node) {
       break;
     }
   }
+  owner_.Removing(*this, std::max(start, 0L), node);
   node.parent().remove_child(node);
   Changed();
   if (start >= 0) AdjustDelete(start, end);
@@ -362,8 +375,10 @@ void Story::DeleteSegmentPart(const Segment& s, long from, long to) {
     else
       SetNodeText(s.node, text);
   } else if (Is(s.node.parent(), "w:r")) {
+    owner_.Removing(*this, s.pos, s.node);
     RemoveElement(s.node);
   } else {
+    owner_.Removing(*this, s.pos, s.node);
     s.node.parent().remove_child(s.node);
   }
 }
@@ -380,6 +395,7 @@ void Story::DeleteSimpleField(const Segment& begin, long start, long end) {
   long left =
       3 + static_cast<long>(SegmentText(index_.segments[index_.SegmentAt(begin.pos + 1)]).size());
   pugi::xml_node node = begin.node;
+  owner_.Removing(*this, begin.pos, node);
   node.parent().remove_child(node);
   AdjustDelete(begin.pos, begin.pos + left);
 }

@@ -20,9 +20,14 @@ struct Span {
   long end = 0;
 };
 
+class Story;
+
 class StoryOwner : public FieldDisplay {
  public:
   virtual void StoryChanged() = 0;
+  // `node`, at position pos of the story, is about to leave the document
+  // with everything it holds.
+  virtual void Removing(Story& story, long pos, pugi::xml_node node) = 0;
 };
 
 // The format typed text takes: a run's properties to copy, then the
@@ -32,11 +37,18 @@ struct TypingFormat {
   CharFormat overlay;
 };
 
-class Story {
+// Shared by the document and every range on it, so that a range outliving
+// its story (a deleted text box) still finds it, dropped.
+class Story : public std::enable_shared_from_this<Story> {
  public:
   Story(pugi::xml_node container, StoryOwner& owner) : container_(container), owner_(owner) {}
 
   pugi::xml_node Container() const { return container_; }
+  // The story's XML is gone with its shape: from now on every use raises
+  // "Object has been deleted." instead of reaching the freed nodes.
+  void Drop();
+  // Throws ComError 5825 for a dropped story.
+  void CheckLive() const;
   const StoryIndex& Index();
   long Length() { return Index().length; }
   // The index is stale after XML changes made elsewhere (the shape layer).
@@ -86,6 +98,7 @@ class Story {
   StoryOwner& owner_;
   StoryIndex index_;
   bool stale_ = true;
+  bool dropped_ = false;
   std::vector<std::weak_ptr<Span>> spans_;
 };
 
