@@ -31,7 +31,7 @@ TEST(ShapeGroups, NamedShapesBecomeOneGroupAtTheFirstOnesPlace) {
   shapes->Item(u"区间：2_lumenpad")->Select();
   auto group = shapes->Range({u"区间：1_lumenpad", u"区间：2_lumenpad"})->Group();
   // A selected member hands the selection on to its group.
-  EXPECT_EQ(host.selected, std::vector{FindAnchors(host.document)[0]});
+  EXPECT_EQ(host.SelectedShapes(), std::vector{FindAnchors(host.document)[0]});
   EXPECT_EQ(group->Type(), word::msoGroup);
   EXPECT_EQ(group->Name(), u"Group 4");
   EXPECT_EQ(shapes->Count(), 2);
@@ -105,12 +105,12 @@ TEST(ShapeGroups, SelectAndDelete) {
   shapes->AddShape(word::msoShapeOval, 0, 0, 1, 1);
   shapes->Item(1)->Select();
   shapes->Item(2)->Select(false);
-  EXPECT_EQ(host.selected.size(), 2u);
+  EXPECT_EQ(host.SelectedShapes().size(), 2u);
   auto range = word::docx::MakeShapeRange(host, host.SelectedShapes());
   EXPECT_EQ(range->Count(), 2);
   range->Item(1)->Delete();
   EXPECT_EQ(shapes->Count(), 1);
-  EXPECT_EQ(host.selected.size(), 1u);
+  EXPECT_EQ(host.SelectedShapes().size(), 1u);
   EXPECT_EQ(host.CaretParagraph().select_nodes("w:r").size(), 2u);
   EXPECT_THROW(range->Item(3), word::ComError);
 }

@@ -22,6 +22,17 @@ std::unique_ptr<word::docx::DocxApplication> NewDocument() {
   return word::docx::OpenDocx(file);
 }
 
+// Word's "Object has been deleted." error.
+void ExpectDeleted(const std::function<void()>& call, const char* what) {
+  SCOPED_TRACE(what);
+  try {
+    call();
+    ADD_FAILURE() << "no error";
+  } catch (const word::ComError& e) {
+    EXPECT_EQ(e.Number(), 5825);
+  }
+}
+
 TEST(LiveRangesAcrossShapes, StayOnTheirTextWhileAnchorsComeAndGo) {
   auto app = NewDocument();
   word::Document& doc = app->ActiveDocument();
@@ -99,23 +110,14 @@ TEST(LiveRangesAcrossShapes, RangesInADeletedTextBoxRaiseObjectDeleted) {
 
   inB->Select();
   outer->Delete();
-  auto expectDeleted = [](const std::function<void()>& call, const char* what) {
-    SCOPED_TRACE(what);
-    try {
-      call();
-      ADD_FAILURE() << "no error";
-    } catch (const word::ComError& e) {
-      EXPECT_EQ(e.Number(), 5825);
-    }
-  };
-  expectDeleted([&] { inA->Text(); }, "Text");
-  expectDeleted([&] { inA->Start(); }, "Start");
-  expectDeleted([&] { inA->Font(); }, "Font");
-  expectDeleted([&] { inA->Duplicate(); }, "Duplicate");
-  expectDeleted([&] { inB->SetText(u"x"); }, "SetText of the nested group's box");
-  expectDeleted([&] { fontA.Bold(); }, "a Font taken before");
-  expectDeleted([&] { findA.Execute(); }, "a Find taken before");
-  expectDeleted([&] { charactersA.Count(); }, "Characters taken before");
+  ExpectDeleted([&] { inA->Text(); }, "Text");
+  ExpectDeleted([&] { inA->Start(); }, "Start");
+  ExpectDeleted([&] { inA->Font(); }, "Font");
+  ExpectDeleted([&] { inA->Duplicate(); }, "Duplicate");
+  ExpectDeleted([&] { inB->SetText(u"x"); }, "SetText of the nested group's box");
+  ExpectDeleted([&] { fontA.Bold(); }, "a Font taken before");
+  ExpectDeleted([&] { findA.Execute(); }, "a Find taken before");
+  ExpectDeleted([&] { charactersA.Count(); }, "Characters taken before");
 
   // The selection stood in a deleted box: it moves to where the anchor was.
   EXPECT_EQ(app->Selection().Start(), 3);
@@ -125,8 +127,52 @@ TEST(LiveRangesAcrossShapes, RangesInADeletedTextBoxRaiseObjectDeleted) {
   EXPECT_EQ(inD->Text(), u"四");
 
   doc.Range(4, 5)->Delete();  // the body text holding d's anchor
-  expectDeleted([&] { inD->Text(); }, "the box of an anchor deleted as text");
+  ExpectDeleted([&] { inD->Text(); }, "the box of an anchor deleted as text");
   EXPECT_EQ(doc.Content()->Text(), u"甲乙丙丁\r");
+}
+
+// Shape objects a tool still holds go with their anchor: once the shape is
+// deleted (as a shape or with the text holding it) or taken into a group,
+// every member raises "Object has been deleted.". The selection lets go of a
+// deleted shape and hands a grouped one on to its group.
+TEST(LiveRangesAcrossShapes, ShapesHeldAfterTheirAnchorLeftRaiseObjectDeleted) {
+  auto app = NewDocument();
+  word::Document& doc = app->ActiveDocument();
+  app->Selection().TypeText(u"甲乙");
+  word::Shapes& shapes = doc.Shapes();
+  auto add = [&](const char16_t* name) {
+    auto shape = shapes.AddShape(word::msoShapeRectangle, 100, 100, 20, 20);
+    shape->SetName(name);
+    return shape;
+  };
+  auto a = add(u"a"), b = add(u"b"), c = add(u"c"), d = add(u"d"), e = add(u"e");
+  auto ab = shapes.Range({u"a", u"b"});
+  word::FillFormat& fillOfA = a->Fill();
+  b->Select();
+  auto group = ab->Group();
+  ExpectDeleted([&] { a->Name(); }, "a grouped Shape");
+  ExpectDeleted([&] { a->SetLeft(1); }, "SetLeft of a grouped Shape");
+  ExpectDeleted([&] { fillOfA.Visible(); }, "a Fill taken before grouping");
+  ExpectDeleted([&] { ab->Count(); }, "the grouped ShapeRange");
+  ExpectDeleted([&] { b->Delete(); }, "Delete of a grouped Shape");
+  EXPECT_EQ(app->Selection().ShapeRange()->Name(), group->Name());
+
+  c->Select();
+  d->Select(false);
+  c->Delete();
+  ExpectDeleted([&] { c->Top(); }, "a deleted Shape");
+  ExpectDeleted([&] { c->TextFrame().TextRange(); }, "the text of a deleted Shape");
+  EXPECT_EQ(app->Selection().ShapeRange()->Name(), u"d");
+
+  doc.Range(3, 4)->Delete();  // the body text holding d's anchor
+  ExpectDeleted([&] { d->Width(); }, "a Shape deleted as text");
+  EXPECT_EQ(app->Selection().ShapeRange()->Count(), 0);
+  EXPECT_NE(app->Selection().Type(), word::wdSelectionShape);
+
+  e->SetLeft(50);
+  EXPECT_EQ(e->Left(), 50);
+  EXPECT_EQ(shapes.Count(), 2);
+  EXPECT_EQ(doc.Content()->Text(), u"甲乙\x01\x01\r");
 }
 
 }  // namespace

@@ -28,22 +28,25 @@ class TestHost : public word::docx::DocxHost {
   pugi::xml_node InsertAnchorRun(pugi::xml_node paragraph, const pugi::xml_node& run) override {
     return paragraph.append_copy(run);
   }
-  void RemoveAnchorRun(pugi::xml_node node) override { node.parent().remove_child(node); }
+  void RemoveAnchorRun(pugi::xml_node node) override {
+    live.Removing(node);
+    node.parent().remove_child(node);
+  }
+  word::docx::LiveAnchors& Live() override { return live; }
   std::unique_ptr<word::Range> StoryRange(pugi::xml_node txbxContent) override {
     lastStory = txbxContent;
     return nullptr;
   }
   void SelectShapes(const std::vector<pugi::xml_node>& anchors, bool replace) override {
-    if (replace) selected.clear();
-    selected.insert(selected.end(), anchors.begin(), anchors.end());
+    live.Select(anchors, replace);
   }
-  std::vector<pugi::xml_node> SelectedShapes() override { return selected; }
+  std::vector<pugi::xml_node> SelectedShapes() override { return live.Selected(); }
 
   pugi::xml_document document;
   unsigned lastId = 0;
   int changes = 0;
   pugi::xml_node lastStory;
-  std::vector<pugi::xml_node> selected;
+  word::docx::LiveAnchors live;
 };
 
 // The node's markup on one line, without indentation.

@@ -337,10 +337,11 @@ void DocxDocument::RemoveAnchorRun(pugi::xml_node node) {
   main_->RemoveRunLevel(node);
 }
 
-// What leaves with the node: the stories of its text boxes (a selection in
-// one moves out to where the node stood) and the display state of its fields,
-// whose addresses pugixml may hand to new nodes.
+// What leaves with the node: its floating shapes, the stories of their text
+// boxes (a selection in one moves out to where the node stood) and the
+// display state of its fields, whose addresses pugixml may hand to new nodes.
 void DocxDocument::Removing(Story& story, long pos, pugi::xml_node node) {
+  liveAnchors_.Removing(node);
   for (const pugi::xpath_node& x : node.select_nodes("descendant-or-self::w:txbxContent")) {
     auto box = boxes_.find(x.node().internal_object());
     if (box == boxes_.end()) continue;
@@ -361,10 +362,7 @@ std::unique_ptr<word::Range> DocxDocument::StoryRange(pugi::xml_node txbxContent
 }
 
 void DocxDocument::SelectShapes(const std::vector<pugi::xml_node>& anchors, bool replace) {
-  if (replace) selectedShapes_.clear();
-  for (pugi::xml_node a : anchors)
-    if (std::find(selectedShapes_.begin(), selectedShapes_.end(), a) == selectedShapes_.end())
-      selectedShapes_.push_back(a);
+  liveAnchors_.Select(anchors, replace);
 }
 
 bool DocxDocument::ShowsCode(pugi::xml_node beginFldChar) const {

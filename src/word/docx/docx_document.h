@@ -74,9 +74,10 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   void MarkChanged() override;
   pugi::xml_node InsertAnchorRun(pugi::xml_node paragraph, const pugi::xml_node& run) override;
   void RemoveAnchorRun(pugi::xml_node node) override;
+  LiveAnchors& Live() override { return liveAnchors_; }
   std::unique_ptr<word::Range> StoryRange(pugi::xml_node txbxContent) override;
   void SelectShapes(const std::vector<pugi::xml_node>& anchors, bool replace) override;
-  std::vector<pugi::xml_node> SelectedShapes() override { return selectedShapes_; }
+  std::vector<pugi::xml_node> SelectedShapes() override { return liveAnchors_.Selected(); }
 
   // StoryOwner
   bool ShowsCode(pugi::xml_node beginFldChar) const override;
@@ -91,7 +92,7 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   void SetShowCode(pugi::xml_node beginFldChar, bool show);
   // The effective format of the character at pos (or the paragraph mark).
   CharFormat FormatAt(Story& story, long pos);
-  void ClearShapeSelection() { selectedShapes_.clear(); }
+  void ClearShapeSelection() { liveAnchors_.ClearSelection(); }
   PageGeometry Geometry() const;
   // Positions of the main story shared by the caret's page (the predefined Page bookmark).
   std::pair<long, long> CaretPage();
@@ -126,7 +127,7 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   std::unique_ptr<word::PageSetup> pageSetup_;
   std::unique_ptr<word::Bookmarks> bookmarks_;
   std::unique_ptr<word::Shapes> shapes_;
-  std::vector<pugi::xml_node> selectedShapes_;
+  LiveAnchors liveAnchors_;
   std::optional<std::pair<long, long>> storedCaret_;
   unsigned nextDrawingId_ = 0;
   bool changed_ = false;

@@ -9,6 +9,7 @@
 #include <pugixml.hpp>
 
 #include "word/api.h"
+#include "word/docx/live_anchors.h"
 
 namespace word::docx {
 
@@ -29,6 +30,9 @@ class DocxHost {
   // Takes out a run holding an anchor, or the anchor's element inside a run
   // that holds more.
   virtual void RemoveAnchorRun(pugi::xml_node node) = 0;
+  // The handles Shape objects hold; the host empties those of the anchors
+  // that leave the document, whichever way they go.
+  virtual LiveAnchors& Live() = 0;
   // The whole story of a text box (a w:txbxContent element) as a range.
   virtual std::unique_ptr<word::Range> StoryRange(pugi::xml_node txbxContent) = 0;
   // Shape.Select: the selection becomes these shapes (the wp:anchor elements).

@@ -74,6 +74,19 @@ unsigned HighestOf(const std::vector<pugi::xml_node>& anchors) {
   return highest;
 }
 
+// A selected member hands the selection on to its group.
+void SelectGroupForMembers(DocxHost& host, const std::vector<pugi::xml_node>& members,
+                           pugi::xml_node group) {
+  std::vector<pugi::xml_node> selected = host.SelectedShapes();
+  const auto isMember = [&members](pugi::xml_node anchor) {
+    return std::find(members.begin(), members.end(), anchor) != members.end();
+  };
+  if (std::none_of(selected.begin(), selected.end(), isMember)) return;
+  std::erase_if(selected, isMember);
+  selected.push_back(group);
+  host.SelectShapes(selected, true);
+}
+
 }  // namespace
 
 pugi::xml_node GroupAnchors(DocxHost& host, const std::vector<pugi::xml_node>& anchors) {
@@ -97,9 +110,11 @@ pugi::xml_node GroupAnchors(DocxHost& host, const std::vector<pugi::xml_node>& a
   const pugi::xml_node choice = anchor.parent().parent();
   if (Is(choice, "mc:Choice")) SetAttr(choice, "Requires", "wpg");
   DropFallback(anchor);
+  SelectGroupForMembers(host, anchors, anchor);
+  // The group takes the first member's place in its run.
+  host.Live().Removing(first);
   first.parent().remove_child(first);
   for (size_t i = 1; i < anchors.size(); ++i) RemoveAnchor(host, anchors[i]);
-  ReplaceInSelection(host, anchors, anchor);
   host.MarkChanged();
   return anchor;
 }

@@ -108,8 +108,6 @@ void AnchorRange::SetRelativeVerticalPosition(WdRelativeVerticalPosition to) {
 void AnchorRange::Delete() {
   shapes_.First();
   for (pugi::xml_node anchor : shapes_.Anchors()) RemoveAnchor(shapes_.Host(), anchor);
-  ReplaceInSelection(shapes_.Host(), shapes_.Anchors());
-  shapes_.Reset({});
   shapes_.Host().MarkChanged();
 }
 
@@ -128,7 +126,6 @@ std::unique_ptr<Shape> AnchorRange::Item(long index) {
 std::unique_ptr<Shape> AnchorRange::Group() {
   if (Count() < 2) throw ComError(-2147024809, "Grouping needs at least two shapes.");
   const pugi::xml_node group = GroupAnchors(shapes_.Host(), shapes_.Anchors());
-  shapes_.Reset({});
   return std::make_unique<AnchorRange>(shapes_.Host(), std::vector{group});
 }
 

@@ -1,7 +1,5 @@
 #include "word/docx/drawing/shape_set.h"
 
-#include <algorithm>
-
 #include "word/docx/drawing/anchor.h"
 
 namespace word::docx::drawing {
@@ -21,34 +19,32 @@ std::vector<pugi::xml_node> ChildOfEachWsp(const std::vector<pugi::xml_node>& an
 
 }  // namespace
 
+ShapeSet::ShapeSet(DocxHost& host, const std::vector<pugi::xml_node>& anchors) : host_(host) {
+  for (pugi::xml_node anchor : anchors) handles_.push_back(host.Live().Track(anchor));
+}
+
+std::vector<pugi::xml_node> ShapeSet::Anchors() const {
+  std::vector<pugi::xml_node> anchors;
+  for (const LiveAnchors::Handle& handle : handles_) anchors.push_back(LiveAnchor(handle));
+  return anchors;
+}
+
 pugi::xml_node ShapeSet::First() const {
-  if (anchors_.empty()) throw ComError(-2147024809, "The shape no longer exists.");
-  return anchors_.front();
+  if (handles_.empty()) throw ComError(-2147024809, "The shape no longer exists.");
+  return LiveAnchor(handles_.front());
 }
 
 std::vector<pugi::xml_node> ShapeSet::ShapeProperties() const {
-  return ChildOfEachWsp(anchors_, "wps:spPr");
+  return ChildOfEachWsp(Anchors(), "wps:spPr");
 }
 
 std::vector<pugi::xml_node> ShapeSet::BodyProperties() const {
-  return ChildOfEachWsp(anchors_, "wps:bodyPr");
+  return ChildOfEachWsp(Anchors(), "wps:bodyPr");
 }
 
 void ShapeSet::Changed() const {
-  for (pugi::xml_node anchor : anchors_) DropFallback(anchor);
+  for (pugi::xml_node anchor : Anchors()) DropFallback(anchor);
   host_.MarkChanged();
-}
-
-void ReplaceInSelection(DocxHost& host, const std::vector<pugi::xml_node>& removed,
-                        pugi::xml_node replacement) {
-  std::vector<pugi::xml_node> selected = host.SelectedShapes();
-  const auto isRemoved = [&removed](pugi::xml_node anchor) {
-    return std::find(removed.begin(), removed.end(), anchor) != removed.end();
-  };
-  if (std::none_of(selected.begin(), selected.end(), isRemoved)) return;
-  std::erase_if(selected, isRemoved);
-  if (replacement) selected.push_back(replacement);
-  host.SelectShapes(selected, true);
 }
 
 }  // namespace word::docx::drawing

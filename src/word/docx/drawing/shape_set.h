@@ -12,13 +12,12 @@ namespace word::docx::drawing {
 
 class ShapeSet {
  public:
-  ShapeSet(DocxHost& host, std::vector<pugi::xml_node> anchors)
-      : host_(host), anchors_(std::move(anchors)) {}
+  ShapeSet(DocxHost& host, const std::vector<pugi::xml_node>& anchors);
 
   DocxHost& Host() const { return host_; }
-  const std::vector<pugi::xml_node>& Anchors() const { return anchors_; }
-  void Reset(std::vector<pugi::xml_node> anchors) { anchors_ = std::move(anchors); }
-  // The first anchor; ComError when the set is empty (its shapes were deleted).
+  // The anchors; ComError 5825 once any of them left the document.
+  std::vector<pugi::xml_node> Anchors() const;
+  // The first anchor; ComError also when the set is empty.
   pugi::xml_node First() const;
   // wps:spPr of every wps:wsp in the set, groups opened.
   std::vector<pugi::xml_node> ShapeProperties() const;
@@ -29,12 +28,7 @@ class ShapeSet {
 
  private:
   DocxHost& host_;
-  std::vector<pugi::xml_node> anchors_;
+  std::vector<LiveAnchors::Handle> handles_;
 };
-
-// Anchors taken out of the document leave the selection; when any of them
-// was selected, their replacement (a new group) is selected instead.
-void ReplaceInSelection(DocxHost& host, const std::vector<pugi::xml_node>& removed,
-                        pugi::xml_node replacement = {});
 
 }  // namespace word::docx::drawing
