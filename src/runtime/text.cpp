@@ -30,28 +30,6 @@ char16_t UpperUnit(char16_t c) {
   return c;
 }
 
-char16_t NarrowUnit(char16_t c) {
-  if (c >= 0xFF01 && c <= 0xFF5E) return c - 0xFEE0;
-  switch (c) {
-    case 0x3000:
-      return u' ';
-    case 0xFFE0:
-      return 0xA2;
-    case 0xFFE1:
-      return 0xA3;
-    case 0xFFE2:
-      return 0xAC;
-    case 0xFFE3:
-      return 0xAF;
-    case 0xFFE5:
-      return 0xA5;
-    case 0xFFE6:
-      return 0x20A9;
-    default:
-      return c;
-  }
-}
-
 // Text compare ignores case and width.
 char16_t FoldUnit(char16_t c) {
   return LowerUnit(NarrowUnit(c));
@@ -84,6 +62,28 @@ std::u16string MapUnits(std::u16string s, Map map) {
 }
 
 }  // namespace
+
+char16_t NarrowUnit(char16_t c) {
+  if (c >= 0xFF01 && c <= 0xFF5E) return c - 0xFEE0;
+  switch (c) {
+    case 0x3000:
+      return u' ';
+    case 0xFFE0:
+      return 0xA2;
+    case 0xFFE1:
+      return 0xA3;
+    case 0xFFE2:
+      return 0xAC;
+    case 0xFFE3:
+      return 0xAF;
+    case 0xFFE5:
+      return 0xA5;
+    case 0xFFE6:
+      return 0x20A9;
+    default:
+      return c;
+  }
+}
 
 int32_t Len(const std::u16string& s) {
   return static_cast<int32_t>(s.size());

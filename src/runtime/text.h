@@ -44,6 +44,8 @@ std::u16string UCase(const std::u16string& s);
 // a space, the full-width cent, pound, not, macron, yen and won signs to
 // their narrow forms.
 std::u16string StrConvNarrow(const std::u16string& s);
+// The same for one UTF-16 unit.
+char16_t NarrowUnit(char16_t c);
 
 // One UTF-16 unit and back (the wide forms; no code page is involved).
 std::u16string Chr(int32_t code);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <climits>
 
+#include "runtime/text.h"
+
 namespace word::docx {
 
 struct FindPattern::Item {
@@ -15,12 +17,6 @@ struct FindPattern::Item {
 };
 
 namespace {
-
-char16_t Narrow(char16_t c) {
-  if (c >= 0xFF01 && c <= 0xFF5E) return static_cast<char16_t>(c - 0xFEE0);
-  if (c == 0x3000) return u' ';
-  return c;
-}
 
 char16_t Lower(char16_t c) {
   return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c;
@@ -145,7 +141,7 @@ static bool Accepts(const FindPattern::Item& item, char16_t c, const PatternOpti
       break;
   }
   char16_t a = item.ch, b = c;
-  if (!o.matchByte) a = Narrow(a), b = Narrow(b);
+  if (!o.matchByte) a = lp::NarrowUnit(a), b = lp::NarrowUnit(b);
   if (!o.wildcards) a = Lower(a), b = Lower(b);
   return a == b;
 }
