@@ -12,19 +12,21 @@
 #include "app/back_end.h"
 #include "app/program_folder.h"
 #include "app/utility_dispatch.h"
-#include "launcher/error_log.h"
-#include "launcher/exit_lumenpad.h"
+#include "errorlog/error_log.h"
 #include "launcher/headless_prompt.h"
 #include "launcher/run_options.h"
 #include "launcher/select_text.h"
 #include "launcher/sub_main.h"
 #include "runtime/utf8.h"
-#include "settings/config_word.h"
+#include "session/config_word.h"
+#include "session/document_init.h"
+#include "session/exit_lumenpad.h"
+#include "session/headless.h"
 #include "settings/settings_store.h"
+#include "tools/tool_table.h"
 #include "ui/headless_driver.h"
 #include "ui/qt_frontend.h"
 #include "ui/qt_prompt.h"
-#include "word/document_init.h"
 #include "word/docx/docx_error.h"
 
 namespace lp {
@@ -34,35 +36,25 @@ void Complain(const std::string& text) {
   std::fprintf(stderr, "lumenpad: %s\n", text.c_str());
 }
 
-// No screen to show a box on: script runs, tests, a machine without display.
-bool Headless(const RunOptions& options) {
-  if (options.Driven() || !options.answers.empty()) return true;
-#ifdef _WIN32
-  return false;
-#else
-  const char* platform = std::getenv("QT_QPA_PLATFORM");
-  if (platform && std::string(platform) == "offscreen") return true;
-  return !std::getenv("DISPLAY") && !std::getenv("WAYLAND_DISPLAY");
-#endif
-}
-
 class Run {
  public:
   Run(const RunOptions& options, BackEnd& backEnd)
       : options_(options),
         backEnd_(backEnd),
-        headless_(Headless(options)),
+        headless_(RunIsHeadless(options.Driven() || !options.answers.empty())),
         qt_(headless_),
         prompt_(MakePrompt()),
         session_(*prompt_),
-        frontend_(qt_, session_, headless_) {
+        frontend_(qt_, session_, &tools::FindForm) {
+    session_.headless = headless_;
     session_.programFolder = FromUtf8(ProgramFolder());
     session_.databasePath = DatabasePath(options.config, ProgramFolder());
     session_.EndRun = [this] { Finish(); };
   }
 
   int Go() {
-    SubMain(session_, frontend_, FromUtf8(options_.commandLine), [this] { return DocumentInit(); });
+    SubMain(session_, frontend_, tools::Routines(), FromUtf8(options_.commandLine),
+            [this] { return DocumentInit(); });
     if (frontend_.OpenForm()) {
       if (headless_) {
         Drive(*frontend_.OpenForm());
@@ -87,7 +79,7 @@ class Run {
       return false;
     if (options_.haveSelect && !SelectFirst(*session_.WordApp, FromUtf8(options_.select))) {
       Complain("--select: the document doesn't hold " + options_.select);
-      status_ = 2;
+      status_ = kExitUsage;
       return false;
     }
     return true;
@@ -103,7 +95,7 @@ class Run {
       }
     } catch (const ui::DriverError& e) {
       Complain(e.what());
-      status_ = 2;
+      status_ = kExitUsage;
     }
     ExitLumenpad(session_);
   }

@@ -1,8 +1,9 @@
 #pragma once
-// The command words of the formula engine, for the launcher's table.
+// The command words of the formula engine.
 
 #include "formula/driver.h"
-#include "word/session.h"
+#include "session/frontend.h"
+#include "session/session.h"
 
 namespace lp {
 
@@ -20,5 +21,15 @@ GsOutcome RunGs(Session& session, const DriverControl& control);
 
 // mhgs: printed signs and fonts over the selection, or the caret's page.
 void RunMhgs(Session& session);
+
+// How the rewrite loop is watched in this run: with a teacher, pump keeps the
+// program responsive and returns false once the teacher cancels; headless,
+// nobody can cancel, so the session's time limit cuts a formula off.
+DriverControl FormulaControl(const Session& session, std::function<bool()> pump);
+
+// The routines of the command words gs and mhgs. A gs formula that does not
+// finish in time ends the run with kExitTimedOut.
+void GsCommand(Session& session, Frontend& ui);
+void MhgsCommand(Session& session, Frontend& ui);
 
 }  // namespace lp

@@ -3,15 +3,13 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPixmap>
 #include <QPushButton>
 
+#include "formula/commands.h"
 #include "formula/gs_rules.h"
 #include "formula/insert.h"
-#include "launcher/error_log.h"
-#include "launcher/exit_lumenpad.h"
 #include "runtime/text.h"
 
 // The rule pictures are compiled into the UI library, a static library, whose
@@ -23,17 +21,8 @@ static void LoadRulePictures() {
 namespace lp {
 namespace {
 
-// Without a screen nobody can close the dialog: a formula that never ends
-// gives up after this long.
-constexpr std::chrono::seconds kHeadlessLimit{5};
-
 QString Q(const std::u16string& s) {
   return QString::fromStdU16String(s);
-}
-
-bool Headless() {
-  const QString platform = QGuiApplication::platformName();
-  return platform == QLatin1String("offscreen") || platform == QLatin1String("minimal");
 }
 
 }  // namespace
@@ -76,8 +65,8 @@ frmGS::frmGS(Session& session) : ui::Form(session) {
   grid->addWidget(cmdOK, 4, 2);
   grid->addWidget(cmdExit, 4, 3);
 
-  connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
-  connect(cmdExit, &QPushButton::clicked, this, [this] { close(); });
+  OnClick(cmdOK, u"cmdOK_Click", [this] { cmdOK_Click(); });
+  OnClick(cmdExit, u"cmdExit_Click", [this] { close(); });
   lbhelp_Click(1);
 }
 
@@ -92,7 +81,7 @@ bool frmGS::eventFilter(QObject* watched, QEvent* event) {
   if (watched == txtGS && event->type() == QEvent::KeyPress) {
     auto* key = static_cast<QKeyEvent*>(event);
     if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
-      cmdOK_Click();
+      Guard(u"cmdOK_Click", [this] { cmdOK_Click(); })();
       return true;
     }
     const QString typed = key->text();
@@ -125,25 +114,27 @@ void frmGS::cmdOK_Click() {
 
 void frmGS::Convert() {
   const std::u16string text = StrConvNarrow(txtGS->text().toStdU16String());
-  DriverControl control;
-  control.prompt = &session_.prompt;
-  control.pump = [this] {
+  DriverControl control = FormulaControl(session_, [this] {
     QCoreApplication::processEvents();
     return !cancelled_;
-  };
-  if (Headless()) control.deadline = std::chrono::steady_clock::now() + kHeadlessLimit;
+  });
+  control.prompt = &session_.prompt;
   converting_ = true;
+  struct Done {
+    bool& converting;
+    ~Done() { converting = false; }
+  } done{converting_};
   try {
     if (session_.config.blMathType)
       InsertFormulaAsMathType(session_, text, control);
     else
       InsertFormulaAsField(session_, text, control);
   } catch (const FormulaAborted& e) {
-    if (e.reason() == FormulaAborted::kTimeout) session_.prompt.MsgBox(kFormulaTimedOut);
-  } catch (const std::exception& e) {
-    ReportError(session_.prompt, u"cmdOK_Click", e);
+    if (e.reason() == FormulaAborted::kTimeout) {
+      session_.prompt.MsgBox(kFormulaTimedOut);
+      session_.exitStatus = kExitTimedOut;
+    }
   }
-  converting_ = false;
 }
 
 }  // namespace lp

@@ -8,7 +8,7 @@
 
 #include "formula/driver.h"
 #include "formula/generators.h"
-#include "word/session.h"
+#include "session/session.h"
 
 namespace lp {
 

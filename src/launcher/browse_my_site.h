@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "word/session.h"
+#include "session/session.h"
 
 namespace lp {
 

@@ -1,5 +1,7 @@
 #include "launcher/command_table.h"
 
+#include "session/exit_lumenpad.h"
+
 namespace lp {
 
 const CommandRow& FindCommand(std::u16string_view commandText) {
@@ -8,14 +10,25 @@ const CommandRow& FindCommand(std::u16string_view commandText) {
   return kCommandTable.back();
 }
 
-void RunCommand(const CommandRow& row, Session& session, Frontend& ui) {
+Routine FindRoutine(std::span<const RoutineBinding> routines, std::u16string_view word) {
+  for (const RoutineBinding& binding : routines)
+    if (binding.word == word) return binding.routine;
+  return nullptr;
+}
+
+void RunCommand(const CommandRow& row, Session& session, Frontend& ui,
+                std::span<const RoutineBinding> routines) {
   if (!row.built) {
     ExitLumenpad(session);
     return;
   }
   switch (row.how) {
     case How::kRoutine:
-      row.routine(session, ui);
+      if (Routine routine = FindRoutine(routines, row.word)) {
+        routine(session, ui);
+      } else {
+        ExitLumenpad(session);
+      }
       break;
     case How::kModeless:
       ui.ShowForm(row.form, false);
@@ -25,5 +38,7 @@ void RunCommand(const CommandRow& row, Session& session, Frontend& ui) {
       break;
   }
 }
+
+void TestCommand(Session&, Frontend&) {}
 
 }  // namespace lp

@@ -2,11 +2,11 @@
 
 #include <exception>
 
+#include "errorlog/error_log.h"
 #include "launcher/browse_my_site.h"
 #include "launcher/command_table.h"
-#include "launcher/error_log.h"
-#include "launcher/exit_lumenpad.h"
 #include "runtime/text.h"
+#include "session/exit_lumenpad.h"
 
 namespace lp {
 namespace {
@@ -27,8 +27,8 @@ bool StartWithSplash(Session& session, Frontend& ui, const std::function<bool()>
 
 }  // namespace
 
-void SubMain(Session& session, Frontend& ui, const std::u16string& commandLine,
-             const std::function<bool()>& documentInit) {
+void SubMain(Session& session, Frontend& ui, std::span<const RoutineBinding> routines,
+             const std::u16string& commandLine, const std::function<bool()>& documentInit) {
   try {
     const std::u16string commandText = LCase(commandLine);
     if (!BrowseMySite(session)) return;
@@ -42,7 +42,7 @@ void SubMain(Session& session, Frontend& ui, const std::u16string& commandLine,
     }
     session.FigureOriginX = 180;
     session.FigureOriginY = 180;
-    RunCommand(FindCommand(commandText), session, ui);
+    RunCommand(FindCommand(commandText), session, ui, routines);
   } catch (const std::exception& e) {
     ReportError(session.prompt, ErrorLabel(u"submain"), e);
   }

@@ -5,7 +5,7 @@
 #include <iterator>
 #include <vector>
 
-#include "launcher/error_log.h"
+#include "errorlog/error_log.h"
 #include "runtime/error.h"
 
 namespace lp {

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "settings/config_word.h"
+#include "settings/config_row.h"
 
 #ifdef _WIN32
 #include <io.h>

@@ -3,9 +3,6 @@
 #include <QGridLayout>
 #include <QPushButton>
 
-#include "launcher/error_log.h"
-#include "launcher/exit_lumenpad.h"
-
 namespace lp {
 namespace {
 
@@ -44,9 +41,12 @@ frmFactoring::frmFactoring(Session& session) : ui::Form(session) {
   grid->addWidget(cmdInsert, 4, 1);
   grid->addWidget(command2, 4, 2);
 
-  connect(command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
-  connect(cmdInsert, &QPushButton::clicked, this, [this] { cmdInsert_Click(); });
-  connect(command2, &QPushButton::clicked, this, [this] { close(); });
+  OnClick(command1, u"Command1_Click", [this] { Command1_Click(); });
+  // Without a decomposition there is nothing to type: an error here has no
+  // handler and ends the run.
+  OnClick(
+      cmdInsert, u"cmdInsert_Click", [this] { cmdInsert_Click(); }, OnError::kEndRun);
+  OnClick(command2, u"Command2_Click", [this] { close(); });
 }
 
 void frmFactoring::Command1_Click() {
@@ -54,15 +54,8 @@ void frmFactoring::Command1_Click() {
   Label1->setText(QString::fromStdU16String(state_.label));
 }
 
-// Without a decomposition there is nothing to type: the run ends on the
-// error, as it always has.
 void frmFactoring::cmdInsert_Click() {
-  try {
-    InsertFactorisation(state_, session_.WordApp->Selection());
-  } catch (const std::exception& e) {
-    ReportError(session_.prompt, u"cmdInsert", e);
-    ExitLumenpad(session_);
-  }
+  InsertFactorisation(state_, session_.WordApp->Selection());
 }
 
 }  // namespace lp

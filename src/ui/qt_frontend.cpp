@@ -2,10 +2,9 @@
 
 #include <QMessageBox>
 
-#include "launcher/exit_lumenpad.h"
 #include "runtime/error.h"
 #include "runtime/utf8.h"
-#include "ui/forms.h"
+#include "session/exit_lumenpad.h"
 
 namespace lp::ui {
 
@@ -34,10 +33,10 @@ void QtFrontend::PumpEvents() {
 
 void QtFrontend::ShowForm(std::u16string_view name, bool modal) {
   app_.Get();
-  form_ = MakeForm(name, session_);
-  if (!form_)
-    throw RuntimeError(kInvalidProcedureCall, "No dialog " + ToUtf8(std::u16string(name)));
-  if (modal && !driven_) {
+  FormMaker make = findForm_(name);
+  if (!make) throw RuntimeError(kInvalidProcedureCall, "No dialog " + ToUtf8(std::u16string(name)));
+  form_ = make(session_);
+  if (modal && !session_.headless) {
     form_->exec();
   } else {
     form_->show();

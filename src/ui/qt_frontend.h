@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "launcher/frmMain.h"
-#include "launcher/frontend.h"
+#include "session/frontend.h"
 #include "ui/form.h"
 #include "ui/qt_app.h"
 
@@ -12,14 +12,14 @@ namespace lp::ui {
 
 class QtFrontend : public Frontend {
  public:
-  // driven: the headless driver works the form, so a modal form doesn't wait.
-  QtFrontend(QtApp& app, Session& session, bool driven)
-      : app_(app), session_(session), driven_(driven) {}
+  // findForm gives the dialog of a form name. In a headless session the
+  // driver works the form, so a modal form doesn't wait.
+  QtFrontend(QtApp& app, Session& session, FormMaker (*findForm)(std::u16string_view))
+      : app_(app), session_(session), findForm_(findForm) {}
   void ShowSplash() override;
   void SetSplashProgress(const std::u16string& text) override;
   void UnloadSplash() override;
   void ShowForm(std::u16string_view form, bool modal) override;
-  bool Headless() const override { return driven_; }
   void PumpEvents() override;
 
   // The dialog SubMain left open, if any.
@@ -28,7 +28,7 @@ class QtFrontend : public Frontend {
  private:
   QtApp& app_;
   Session& session_;
-  bool driven_;
+  FormMaker (*findForm_)(std::u16string_view);
   std::unique_ptr<frmMain> splash_;
   std::unique_ptr<Form> form_;
 };

@@ -29,10 +29,14 @@ class Journal : public Frontend {
   void ShowForm(std::u16string_view form, bool modal) override {
     events.push_back((modal ? "modal " : "show ") + ToUtf8(std::u16string(form)));
   }
-  bool Headless() const override { return true; }
   void PumpEvents() override {}
   std::vector<std::string> events;
 };
+
+void NoteMhgs(Session& session, Frontend&) {
+  session.exitStatus = 77;
+}
+constexpr RoutineBinding kRoutines[] = {{u"test", &TestCommand}, {u"mhgs", &NoteMhgs}};
 
 class SubMainTest : public ::testing::Test {
  protected:
@@ -49,7 +53,7 @@ class SubMainTest : public ::testing::Test {
   void TearDown() override { fs::remove_all(folder_); }
 
   void Run(const std::u16string& commandLine, bool wordReached = true) {
-    SubMain(session_, ui_, commandLine, [&] {
+    SubMain(session_, ui_, kRoutines, commandLine, [&] {
       ui_.events.push_back("Document_Init");
       return wordReached;
     });
@@ -78,6 +82,9 @@ TEST_F(SubMainTest, KnownWordsRunAfterDocumentInit) {
   session_.FigureOriginX = 0;
   Run(u"Factoring");
   EXPECT_EQ(ui_.events, (std::vector<std::string>{"Document_Init", "show frmFactoring"}));
+  ui_.events.clear();
+  Run(u"MHGS");
+  EXPECT_EQ(session_.exitStatus, 77);
   EXPECT_EQ(session_.FigureOriginX, 180);
   EXPECT_EQ(session_.FigureOriginY, 180);
   EXPECT_TRUE(prompt_.Shown().empty());
@@ -123,7 +130,8 @@ TEST_F(SubMainTest, EmptyCommandShowsTheSplash) {
 }
 
 TEST_F(SubMainTest, EscapingErrorsAreReported) {
-  SubMain(session_, ui_, u"test", []() -> bool { throw RuntimeError(kOverflow, "Overflow"); });
+  SubMain(session_, ui_, kRoutines, u"test",
+          []() -> bool { throw RuntimeError(kOverflow, "Overflow"); });
   ASSERT_EQ(prompt_.Shown().size(), 1u);
   EXPECT_EQ(prompt_.Shown()[0].prompt, u"Overflow\r\nsubmain-->line 0");
   EXPECT_EQ(prompt_.Shown()[0].title, u"错误号: 6");

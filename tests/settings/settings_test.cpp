@@ -6,7 +6,8 @@
 
 #include "runtime/error.h"
 #include "runtime/recording_prompt.h"
-#include "settings/config_word.h"
+#include "session/config_word.h"
+#include "settings/config_row.h"
 #include "settings/database.h"
 #include "settings/file_fields.h"
 #include "settings/record_slots.h"

@@ -8,9 +8,9 @@
 
 #include "runtime/recording_prompt.h"
 #include "runtime/utf8.h"
-#include "word/document_init.h"
+#include "session/document_init.h"
+#include "session/files.h"
 #include "word/fake/fake_word.h"
-#include "word/files.h"
 
 namespace {
 

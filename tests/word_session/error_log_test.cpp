@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "launcher/error_log.h"
+#include "errorlog/error_log.h"
 #include "runtime/error.h"
 #include "runtime/recording_prompt.h"
 #include "word/types.h"

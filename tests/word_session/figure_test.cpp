@@ -2,8 +2,8 @@
 
 #include "runtime/error.h"
 #include "runtime/recording_prompt.h"
+#include "session/figure.h"
 #include "word/fake/fake_word.h"
-#include "word/figure.h"
 
 namespace {
 

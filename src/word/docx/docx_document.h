@@ -14,7 +14,7 @@
 
 #include "word/api.h"
 #include "word/docx/document_settings.h"
-#include "word/docx/docx_host.h"
+#include "word/docx/host/docx_host.h"
 #include "word/docx/layout_estimate.h"
 #include "word/docx/package.h"
 #include "word/docx/story.h"

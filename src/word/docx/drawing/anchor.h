@@ -9,7 +9,7 @@
 
 #include <pugixml.hpp>
 
-#include "word/docx/docx_host.h"
+#include "word/docx/host/docx_host.h"
 #include "word/types.h"
 
 namespace word::docx::drawing {

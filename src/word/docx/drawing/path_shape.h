@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "word/docx/docx_host.h"
+#include "word/docx/host/docx_host.h"
 #include "word/shapes.h"
 
 namespace word::docx::drawing {

@@ -6,7 +6,7 @@
 
 #include <pugixml.hpp>
 
-#include "word/docx/docx_host.h"
+#include "word/docx/host/docx_host.h"
 
 namespace word::docx::drawing {
 

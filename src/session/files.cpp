@@ -1,4 +1,4 @@
-#include "word/files.h"
+#include "session/files.h"
 
 #include <system_error>
 

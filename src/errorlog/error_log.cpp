@@ -1,4 +1,4 @@
-#include "launcher/error_log.h"
+#include "errorlog/error_log.h"
 
 #include <new>
 

@@ -5,8 +5,8 @@
 #include <functional>
 #include <string>
 
+#include "session/session.h"
 #include "word/connector.h"
-#include "word/session.h"
 
 namespace lp {
 

@@ -1,9 +1,9 @@
-#include "settings/config_word.h"
+#include "settings/config_row.h"
 
 #include <exception>
 #include <string>
 
-#include "launcher/error_log.h"
+#include "errorlog/error_log.h"
 #include "runtime/convert.h"
 #include "runtime/utf8.h"
 
@@ -67,22 +67,6 @@ void ApplyConfigRow(const Recordset& rs, ConfigGlobals& g, word::Application* ap
     g.blAutoKD = FlagOrDefault(bl, vbTrue);
   } else if (name == u"blInlineShape") {
     g.blInlineShape = FlagOrDefault(bl, vbFalse);
-  }
-}
-
-void ConfigWord(Session& session) {
-  Database db(session.databasePath);
-  try {
-    OpenDatabase(db);
-    if (db.DbRs.State() == adStateOpen) db.DbRs.Close();
-    db.DbRs.Open("select * from  config  order by id asc", db.DbConn);
-    if (db.DbRs.RecordCount() != 0) {
-      for (; !db.DbRs.Eof(); db.DbRs.MoveNext())
-        ApplyConfigRow(db.DbRs, session.config, session.WordApp);
-    }
-    CloseDatabase(db);
-  } catch (const std::exception& e) {
-    ReportError(session.prompt, ErrorLabel(u"ConfigWord"), e);
   }
 }
 

@@ -1,4 +1,4 @@
-#include "word/figure.h"
+#include "session/figure.h"
 
 #include <chrono>
 #include <ctime>

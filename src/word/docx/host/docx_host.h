@@ -9,7 +9,7 @@
 #include <pugixml.hpp>
 
 #include "word/api.h"
-#include "word/docx/live_anchors.h"
+#include "word/docx/host/live_anchors.h"
 
 namespace word::docx {
 

@@ -1,7 +1,7 @@
 #pragma once
 // The one way a run ends on purpose: release Word and end the process.
 
-#include "word/session.h"
+#include "session/session.h"
 
 namespace lp {
 

@@ -1,11 +1,11 @@
 #include <cstdlib>
 #include <cwchar>
 
-#include "launcher/error_log.h"
+#include "errorlog/error_log.h"
 #include "runtime/convert.h"
 #include "runtime/text.h"
 #include "runtime/utf8.h"
-#include "word/document_init.h"
+#include "session/document_init.h"
 
 namespace lp {
 

@@ -1,10 +1,10 @@
-#include "word/document_init.h"
+#include "session/document_init.h"
 
-#include "launcher/error_log.h"
+#include "errorlog/error_log.h"
 #include "runtime/convert.h"
 #include "runtime/error.h"
 #include "runtime/text.h"
-#include "word/files.h"
+#include "session/files.h"
 
 namespace lp {
 

@@ -1,6 +1,6 @@
 #pragma once
-// What the launcher needs of the user interface: the splash and the forms of
-// the command table, by name. The executable gives the Qt one.
+// What the launcher and the tools need of the user interface: the splash and
+// the forms of the command table, by name. The executable gives the Qt one.
 
 #include <string>
 #include <string_view>
@@ -15,8 +15,6 @@ class Frontend {
   virtual void UnloadSplash() = 0;
   // Shows the form; a modal one returns when it is closed.
   virtual void ShowForm(std::u16string_view form, bool modal) = 0;
-  // True when no teacher watches: scripts, tests, a machine without display.
-  virtual bool Headless() const = 0;
   // Serves waiting events during a long computation.
   virtual void PumpEvents() = 0;
 };

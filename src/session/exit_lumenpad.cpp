@@ -1,8 +1,8 @@
-#include "launcher/exit_lumenpad.h"
+#include "session/exit_lumenpad.h"
 
 #include <exception>
 
-#include "launcher/error_log.h"
+#include "errorlog/error_log.h"
 
 namespace lp {
 

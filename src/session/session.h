@@ -3,6 +3,7 @@
 // stored options, and the shape names of the figure being drawn. It sits
 // above the Word API and never knows which back end serves it.
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -13,6 +14,10 @@
 #include "word/api.h"
 
 namespace lp {
+
+// Exit statuses of a run besides 0.
+constexpr int kExitUsage = 2;     // a bad option, a refused file, a missing control
+constexpr int kExitTimedOut = 3;  // a formula did not finish in time
 
 struct Session {
   Session(word::Application& app, Prompt& prompt) : WordApp(&app), prompt(prompt) {}
@@ -29,9 +34,16 @@ struct Session {
   std::function<void()> EndRun;
   int exitStatus = 0;  // the process's exit status when the run ends
 
+  // No teacher watches: a script, a test, a machine without a display. Boxes
+  // are answered from the command line and nobody can cancel a long formula,
+  // so the formula engine gives up after formulaTimeLimit and the run ends
+  // with kExitTimedOut.
+  bool headless = false;
+  std::chrono::milliseconds formulaTimeLimit{5000};
+
   int16_t TemplateAttached = 0;
   long ShapeCounter = 0;
-  std::vector<std::u16string> ShapeNames;  // element k of the original is ShapeNames[k - 1]
+  std::vector<std::u16string> ShapeNames;  // name number k is ShapeNames[k - 1]
   float AnchorX = 0;
   float AnchorY = 0;
   int16_t FigureOriginX = 180;

@@ -1,4 +1,4 @@
-#include "word/docx/live_anchors.h"
+#include "word/docx/host/live_anchors.h"
 
 #include <algorithm>
 

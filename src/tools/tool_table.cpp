@@ -1,0 +1,39 @@
+#include "tools/tool_table.h"
+
+#include <array>
+
+#include "formula/commands.h"
+#include "formula/frmGS.h"
+#include "solvers/frmFactoring.h"
+
+namespace lp::tools {
+namespace {
+
+constexpr std::array kRoutines{
+    RoutineBinding{u"test", &TestCommand},
+    RoutineBinding{u"mhgs", &MhgsCommand},
+    RoutineBinding{u"gs", &GsCommand},
+};
+
+const std::array kForms{
+    FormBinding{u"frmFactoring", &ui::MakeForm<frmFactoring>},
+    FormBinding{u"frmGS", &ui::MakeForm<frmGS>},
+};
+
+}  // namespace
+
+std::span<const RoutineBinding> Routines() {
+  return kRoutines;
+}
+
+std::span<const FormBinding> Forms() {
+  return kForms;
+}
+
+ui::FormMaker FindForm(std::u16string_view name) {
+  for (const FormBinding& form : kForms)
+    if (form.name == name) return form.make;
+  return nullptr;
+}
+
+}  // namespace lp::tools
