@@ -1,5 +1,6 @@
 #include "pictures/jpeg_block_coder.h"
 
+#include <array>
 #include <bit>
 
 #if defined(__SSE2__) || defined(_M_X64)
@@ -29,6 +30,36 @@ std::uint64_t NonZeroMask(const std::int16_t* c) {
 #endif
 }
 
+// kColumnMajorAt[k]: where the k-th coefficient of the zig-zag order lies.
+constexpr std::array<std::uint8_t, 64> kColumnMajorAt = [] {
+  std::array<std::uint8_t, 64> at{};
+  for (int k = 0; k < 64; ++k) at[k] = static_cast<std::uint8_t>(ColumnMajorIndex(kZigZag[k]));
+  return at;
+}();
+
+// kZigZagBits[b][byte]: the zig-zag bits of the set bits of byte b of a
+// column-major mask. Eight look-ups reorder a mask where reordering the 64
+// coefficients themselves would cost 64 moves a block.
+constexpr std::array<std::array<std::uint64_t, 256>, 8> kZigZagBits = [] {
+  std::array<int, 64> zigZagOf{};
+  for (int k = 0; k < 64; ++k) zigZagOf[kColumnMajorAt[k]] = k;
+  std::array<std::array<std::uint64_t, 256>, 8> bits{};
+  for (int b = 0; b < 8; ++b) {
+    for (int byte = 0; byte < 256; ++byte) {
+      for (int i = 0; i < 8; ++i) {
+        if (byte >> i & 1) bits[b][byte] |= std::uint64_t{1} << zigZagOf[8 * b + i];
+      }
+    }
+  }
+  return bits;
+}();
+
+std::uint64_t ZigZagMask(std::uint64_t columnMajorMask) {
+  std::uint64_t mask = 0;
+  for (int b = 0; b < 8; ++b) mask |= kZigZagBits[b][(columnMajorMask >> (8 * b)) & 0xFF];
+  return mask;
+}
+
 int SizeOf(int value) {
   return std::bit_width(static_cast<unsigned>(value < 0 ? -value : value));
 }
@@ -37,23 +68,24 @@ int SizeOf(int value) {
 
 BlockCoder::BlockCoder(JpegOutput& out) : out_(out), tables_(GetJpegTables()) {}
 
-void BlockCoder::WriteBlock(const std::int16_t* coefficients, int component) {
+void BlockCoder::WriteBlock(const std::int16_t* columnMajor, int component) {
   const int table = component == 0 ? 0 : 1;  // luminance or chrominance
   const HuffmanCodes& dc = tables_.dc[table];
   const HuffmanCodes& ac = tables_.ac[table];
-  const int diff = coefficients[0] - previousDc_[component];
-  previousDc_[component] = coefficients[0];
+  const int diff = columnMajor[0] - previousDc_[component];
+  previousDc_[component] = columnMajor[0];
   const int dcSize = SizeOf(diff);
   WriteSymbolAndValue(dc, dcSize, dcSize, diff);
 
-  std::uint64_t rest = NonZeroMask(coefficients) & ~std::uint64_t{1};
+  std::uint64_t rest = ZigZagMask(NonZeroMask(columnMajor)) & ~std::uint64_t{1};
   int last = 0;
   while (rest != 0) {
     const int k = std::countr_zero(rest);
     int run = k - last - 1;
     for (; run > 15; run -= 16) out_.WriteBits(ac.code[0xF0], ac.length[0xF0]);
-    const int size = SizeOf(coefficients[k]);
-    WriteSymbolAndValue(ac, run * 16 + size, size, coefficients[k]);
+    const int value = columnMajor[kColumnMajorAt[k]];
+    const int size = SizeOf(value);
+    WriteSymbolAndValue(ac, run * 16 + size, size, value);
     last = k;
     rest &= rest - 1;
   }

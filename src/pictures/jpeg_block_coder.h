@@ -13,11 +13,12 @@ class BlockCoder {
  public:
   explicit BlockCoder(JpegOutput& out);
 
-  // Codes one block of 64 coefficients in zig-zag order for `component`
-  // (0 luminance, 1 and 2 chrominance): the DC difference from the
-  // component's previous block, then runs of zeros and values, with (15, 0)
-  // for every 16 zeros before a value and (0, 0) after the last value.
-  void WriteBlock(const std::int16_t* coefficients, int component);
+  // Codes one block of 64 coefficients for `component` (0 luminance, 1 and
+  // 2 chrominance), stored column-major as the transform writes them, in
+  // zig-zag order: the DC difference from the component's previous block,
+  // then runs of zeros and values, with (15, 0) for every 16 zeros before a
+  // value and (0, 0) after the last value.
+  void WriteBlock(const std::int16_t* columnMajor, int component);
 
  private:
   // Writes `symbol`'s code from `table`, followed by the `size` low bits of

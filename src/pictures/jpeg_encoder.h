@@ -9,5 +9,7 @@ namespace lp {
 
 bool EncodeBitmapWith(const std::uint8_t* bits, const BitmapHeader& header, const std::string& path,
                       std::uint32_t options, const JpegKernels& kernels);
+JpegResult EncodeRowsWith(RowSource& source, const std::string& path, std::uint32_t options,
+                          const JpegKernels& kernels);
 
 }  // namespace lp

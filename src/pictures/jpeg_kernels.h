@@ -6,15 +6,20 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "pictures/jpeg_writer.h"
+
 namespace lp {
 
 struct JpegKernels {
   const char* name;
-  // `count` pixels in blue, green, red order to Y, Cb, Cr samples centred
-  // on 0: Y - 128, Cb and Cr as they come.
-  void (*convertColour)(const std::uint8_t* bgr, int count, float* y, float* cb, float* cr);
+  // `count` pixels of three bytes in `order` to Y, Cb, Cr samples centred
+  // on 0: Y - 128, Cb and Cr as they come. The row goes on for `readable`
+  // pixels (at least `count`), which vector loads may read past `count`.
+  void (*convertColour)(const std::uint8_t* pixels, PixelOrder order, int count, int readable,
+                        float* y, float* cb, float* cr);
   // The same for the Y samples alone.
-  void (*convertGrey)(const std::uint8_t* bgr, int count, float* y);
+  void (*convertGrey)(const std::uint8_t* pixels, PixelOrder order, int count, int readable,
+                      float* y);
   // Forward DCT of the 8x8 samples at `samples` (rows `stride` floats apart),
   // each coefficient rounded to the nearest integer, then divided by its
   // divisor truncating toward zero. Coefficients and divisors are stored

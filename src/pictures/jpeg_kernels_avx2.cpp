@@ -3,6 +3,8 @@
 #if defined(__GNUC__) && (defined(__x86_64__) || defined(__i386__))
 #include <immintrin.h>
 
+#include <algorithm>
+
 #define LP_AVX2 __attribute__((target("avx2")))
 
 namespace lp {
@@ -20,14 +22,16 @@ struct Pixels8 {
   __m256 b, g, r;
 };
 
-// Eight pixels from 24 bytes; reads 28, so callers keep 4 bytes of slack.
-LP_AVX2 inline Pixels8 LoadPixels(const std::uint8_t* bgr) {
-  const __m128i low = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bgr));
-  const __m128i high = _mm_loadu_si128(reinterpret_cast<const __m128i*>(bgr + 12));
+// Eight pixels from 24 bytes, blue at byte kBlue of each (0 or 2); reads 28,
+// so callers keep 4 bytes of slack.
+template <int kBlue>
+LP_AVX2 inline Pixels8 LoadPixels(const std::uint8_t* pixels) {
+  const __m128i low = _mm_loadu_si128(reinterpret_cast<const __m128i*>(pixels));
+  const __m128i high = _mm_loadu_si128(reinterpret_cast<const __m128i*>(pixels + 12));
   const __m256i both = _mm256_inserti128_si256(_mm256_castsi128_si256(low), high, 1);
-  return {_mm256_cvtepi32_ps(_mm256_shuffle_epi8(both, LP_PICK(0))),
+  return {_mm256_cvtepi32_ps(_mm256_shuffle_epi8(both, LP_PICK(kBlue))),
           _mm256_cvtepi32_ps(_mm256_shuffle_epi8(both, LP_PICK(1))),
-          _mm256_cvtepi32_ps(_mm256_shuffle_epi8(both, LP_PICK(2)))};
+          _mm256_cvtepi32_ps(_mm256_shuffle_epi8(both, LP_PICK(2 - kBlue)))};
 }
 
 LP_AVX2 inline __m256 Mix(const Pixels8& p, float fr, float fg, float fb) {
@@ -36,31 +40,57 @@ LP_AVX2 inline __m256 Mix(const Pixels8& p, float fr, float fg, float fb) {
       _mm256_mul_ps(_mm256_set1_ps(fb), p.b));
 }
 
-// Whole groups of eight whose 28-byte read stays inside the row.
-inline int VectorPixels(int count) {
-  return count > 2 ? (count - 2) / 8 * 8 : 0;
+// Whole groups of eight of the `count` pixels whose 28-byte read stays
+// inside the `readable` pixels.
+inline int VectorPixels(int count, int readable) {
+  const int whole = std::min(count, readable - 2);
+  return whole > 0 ? whole / 8 * 8 : 0;
 }
 
-LP_AVX2 void ConvertColour(const std::uint8_t* bgr, int count, float* y, float* cb, float* cr) {
-  const int vectorCount = VectorPixels(count);
+template <int kBlue>
+LP_AVX2 void ConvertColourIn(const std::uint8_t* pixels, int vectorCount, float* y, float* cb,
+                             float* cr) {
   const __m256 centre = _mm256_set1_ps(128.0f);
   for (int i = 0; i < vectorCount; i += 8) {
-    const Pixels8 p = LoadPixels(bgr + 3 * i);
+    const Pixels8 p = LoadPixels<kBlue>(pixels + 3 * i);
     _mm256_storeu_ps(y + i, _mm256_sub_ps(Mix(p, kYR, kYG, kYB), centre));
     _mm256_storeu_ps(cb + i, Mix(p, kCbR, kCbG, kCbB));
     _mm256_storeu_ps(cr + i, Mix(p, kCrR, kCrG, kCrB));
   }
-  PlainKernels().convertColour(bgr + 3 * vectorCount, count - vectorCount, y + vectorCount,
-                               cb + vectorCount, cr + vectorCount);
 }
 
-LP_AVX2 void ConvertGrey(const std::uint8_t* bgr, int count, float* y) {
-  const int vectorCount = VectorPixels(count);
+template <int kBlue>
+LP_AVX2 void ConvertGreyIn(const std::uint8_t* pixels, int vectorCount, float* y) {
   const __m256 centre = _mm256_set1_ps(128.0f);
   for (int i = 0; i < vectorCount; i += 8) {
-    _mm256_storeu_ps(y + i, _mm256_sub_ps(Mix(LoadPixels(bgr + 3 * i), kYR, kYG, kYB), centre));
+    const Pixels8 p = LoadPixels<kBlue>(pixels + 3 * i);
+    _mm256_storeu_ps(y + i, _mm256_sub_ps(Mix(p, kYR, kYG, kYB), centre));
   }
-  PlainKernels().convertGrey(bgr + 3 * vectorCount, count - vectorCount, y + vectorCount);
+}
+
+LP_AVX2 void ConvertColour(const std::uint8_t* pixels, PixelOrder order, int count, int readable,
+                           float* y, float* cb, float* cr) {
+  const int vectorCount = VectorPixels(count, readable);
+  if (order == PixelOrder::kBgr) {
+    ConvertColourIn<0>(pixels, vectorCount, y, cb, cr);
+  } else {
+    ConvertColourIn<2>(pixels, vectorCount, y, cb, cr);
+  }
+  PlainKernels().convertColour(pixels + 3 * vectorCount, order, count - vectorCount,
+                               readable - vectorCount, y + vectorCount, cb + vectorCount,
+                               cr + vectorCount);
+}
+
+LP_AVX2 void ConvertGrey(const std::uint8_t* pixels, PixelOrder order, int count, int readable,
+                         float* y) {
+  const int vectorCount = VectorPixels(count, readable);
+  if (order == PixelOrder::kBgr) {
+    ConvertGreyIn<0>(pixels, vectorCount, y);
+  } else {
+    ConvertGreyIn<2>(pixels, vectorCount, y);
+  }
+  PlainKernels().convertGrey(pixels + 3 * vectorCount, order, count - vectorCount,
+                             readable - vectorCount, y + vectorCount);
 }
 
 LP_AVX2 inline __m256 Times(float c, __m256 v) {

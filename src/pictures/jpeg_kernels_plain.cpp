@@ -4,19 +4,40 @@ namespace lp {
 
 namespace {
 
-void ConvertColour(const std::uint8_t* bgr, int count, float* y, float* cb, float* cr) {
-  for (int i = 0; i < count; ++i, bgr += 3) {
-    const float b = bgr[0], g = bgr[1], r = bgr[2];
+// kBlue is where blue lies in a pixel: 0 for blue, green, red, 2 for red,
+// green, blue.
+template <int kBlue>
+void ConvertColourIn(const std::uint8_t* pixels, int count, float* y, float* cb, float* cr) {
+  for (int i = 0; i < count; ++i, pixels += 3) {
+    const float b = pixels[kBlue], g = pixels[1], r = pixels[2 - kBlue];
     y[i] = ((kYR * r + kYG * g) + kYB * b) - 128.0f;
     cb[i] = (kCbR * r + kCbG * g) + kCbB * b;
     cr[i] = (kCrR * r + kCrG * g) + kCrB * b;
   }
 }
 
-void ConvertGrey(const std::uint8_t* bgr, int count, float* y) {
-  for (int i = 0; i < count; ++i, bgr += 3) {
-    const float b = bgr[0], g = bgr[1], r = bgr[2];
+template <int kBlue>
+void ConvertGreyIn(const std::uint8_t* pixels, int count, float* y) {
+  for (int i = 0; i < count; ++i, pixels += 3) {
+    const float b = pixels[kBlue], g = pixels[1], r = pixels[2 - kBlue];
     y[i] = ((kYR * r + kYG * g) + kYB * b) - 128.0f;
+  }
+}
+
+void ConvertColour(const std::uint8_t* pixels, PixelOrder order, int count, int, float* y,
+                   float* cb, float* cr) {
+  if (order == PixelOrder::kBgr) {
+    ConvertColourIn<0>(pixels, count, y, cb, cr);
+  } else {
+    ConvertColourIn<2>(pixels, count, y, cb, cr);
+  }
+}
+
+void ConvertGrey(const std::uint8_t* pixels, PixelOrder order, int count, int, float* y) {
+  if (order == PixelOrder::kBgr) {
+    ConvertGreyIn<0>(pixels, count, y);
+  } else {
+    ConvertGreyIn<2>(pixels, count, y);
   }
 }
 

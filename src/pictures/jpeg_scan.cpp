@@ -14,17 +14,6 @@ constexpr std::size_t kMaxBlockBytes = 1024;
 
 constexpr int kTileUnits = 8;
 
-// Column-major index of the natural position row * 8 + column.
-constexpr int ColumnMajor(int natural) {
-  return (natural % 8) * 8 + natural / 8;
-}
-
-constexpr std::array<std::uint8_t, 64> kZigZagColumnMajor = [] {
-  std::array<std::uint8_t, 64> order{};
-  for (int i = 0; i < 64; ++i) order[i] = static_cast<std::uint8_t>(ColumnMajor(kZigZag[i]));
-  return order;
-}();
-
 }  // namespace
 
 ScanWriter::ScanWriter(JpegOutput& out, const JpegFrame& frame, const JpegKernels& kernels)
@@ -35,41 +24,45 @@ ScanWriter::ScanWriter(JpegOutput& out, const JpegFrame& frame, const JpegKernel
       mcuWidth_(8 * frame.lumaHorizontal),
       mcuHeight_(8 * frame.lumaVertical),
       mcusAcross_((frame.width + mcuWidth_ - 1) / mcuWidth_),
-      mcusDown_((frame.height + mcuHeight_ - 1) / mcuHeight_),
       tileWidth_(std::min(mcusAcross_, kTileUnits) * mcuWidth_) {
   for (int c = 0; c < frame.components; ++c) {
     planes_[c].resize(static_cast<std::size_t>(tileWidth_) * mcuHeight_);
   }
   for (int t = 0; t < frame.Tables(); ++t) {
-    for (int i = 0; i < 64; ++i) divisors_[t][kZigZagColumnMajor[i]] = frame.quantisation[t][i];
+    for (int i = 0; i < 64; ++i)
+      divisors_[t][ColumnMajorIndex(kZigZag[i])] = frame.quantisation[t][i];
   }
 }
 
 void ScanWriter::Write(const std::uint8_t* topRow, std::ptrdiff_t rowStep) {
-  for (int band = 0; band < mcusDown_; ++band) {
-    for (int first = 0; first < mcusAcross_; first += kTileUnits) {
-      const int units = std::min(kTileUnits, mcusAcross_ - first);
-      ConvertTile(topRow, rowStep, band * mcuHeight_, first * mcuWidth_, units * mcuWidth_);
-      if (mcuWidth_ > 8 || mcuHeight_ > 8) DownsampleChroma(units * mcuWidth_);
-      WriteTile(units);
-    }
+  for (int top = 0; top < frame_.height; top += mcuHeight_) {
+    WriteBand(topRow + top * rowStep, rowStep, std::min(mcuHeight_, frame_.height - top));
+  }
+}
+
+void ScanWriter::WriteBand(const std::uint8_t* firstRow, std::ptrdiff_t rowStep, int rows) {
+  for (int first = 0; first < mcusAcross_; first += kTileUnits) {
+    const int units = std::min(kTileUnits, mcusAcross_ - first);
+    ConvertTile(firstRow, rowStep, rows, first * mcuWidth_, units * mcuWidth_);
+    if (mcuWidth_ > 8 || mcuHeight_ > 8) DownsampleChroma(units * mcuWidth_);
+    WriteTile(units);
   }
 }
 
 // Partial units at the right and lower edges are filled by repeating the
 // last column and the last row of the picture: flat continuations cost the
 // fewest bits and leave no ringing at the visible edge.
-void ScanWriter::ConvertTile(const std::uint8_t* topRow, std::ptrdiff_t rowStep, int top, int left,
-                             int samples) {
+void ScanWriter::ConvertTile(const std::uint8_t* firstRow, std::ptrdiff_t rowStep, int rows,
+                             int left, int samples) {
   const int inside = std::min(samples, frame_.width - left);
   for (int r = 0; r < mcuHeight_; ++r) {
-    const int y = std::min(top + r, frame_.height - 1);
-    const std::uint8_t* pixels = topRow + y * rowStep + 3 * left;
+    const std::uint8_t* pixels = firstRow + std::min(r, rows - 1) * rowStep + 3 * left;
     const std::size_t at = static_cast<std::size_t>(r) * tileWidth_;
     if (frame_.components == 1) {
-      kernels_.convertGrey(pixels, inside, &planes_[0][at]);
+      kernels_.convertGrey(pixels, frame_.pixels, inside, frame_.width - left, &planes_[0][at]);
     } else {
-      kernels_.convertColour(pixels, inside, &planes_[0][at], &planes_[1][at], &planes_[2][at]);
+      kernels_.convertColour(pixels, frame_.pixels, inside, frame_.width - left, &planes_[0][at],
+                             &planes_[1][at], &planes_[2][at]);
     }
     for (int c = 0; c < frame_.components; ++c) {
       float* row = &planes_[c][at];
@@ -111,13 +104,11 @@ void ScanWriter::WriteTile(int units) {
 }
 
 void ScanWriter::WriteBlock(const float* samples, int component) {
-  std::int16_t columnMajor[64], zigZag[64];
+  std::int16_t columnMajor[64];
   kernels_.transformBlock(samples, tileWidth_, divisors_[component == 0 ? 0 : 1].data(),
                           columnMajor);
-#pragma GCC unroll 64
-  for (int i = 0; i < 64; ++i) zigZag[i] = columnMajor[kZigZagColumnMajor[i]];
   out_.Reserve(kMaxBlockBytes);
-  coder_.WriteBlock(zigZag, component);
+  coder_.WriteBlock(columnMajor, component);
 }
 
 }  // namespace lp

@@ -22,8 +22,15 @@ class ScanWriter {
   // bottom-up rows of a bitmap).
   void Write(const std::uint8_t* topRow, std::ptrdiff_t rowStep);
 
+  // Rows of one band of units, the most a caller streaming the picture needs
+  // to hold at a time.
+  int BandRows() const { return mcuHeight_; }
+  // Codes the next band from its `rows` rows (BandRows, fewer in the last
+  // band), the first at `firstRow`, each `rowStep` bytes after the one above.
+  void WriteBand(const std::uint8_t* firstRow, std::ptrdiff_t rowStep, int rows);
+
  private:
-  void ConvertTile(const std::uint8_t* topRow, std::ptrdiff_t rowStep, int top, int left,
+  void ConvertTile(const std::uint8_t* firstRow, std::ptrdiff_t rowStep, int rows, int left,
                    int samples);
   void DownsampleChroma(int samples);
   void WriteTile(int units);
@@ -34,7 +41,7 @@ class ScanWriter {
   const JpegKernels& kernels_;
   BlockCoder coder_;
   int mcuWidth_, mcuHeight_;  // in luminance samples
-  int mcusAcross_, mcusDown_;
+  int mcusAcross_;
   // A tile is a few units side by side, small enough to stay in the
   // processor's nearest cache from conversion to coding: Y, Cb and Cr planes
   // of mcuHeight_ rows of tileWidth_ samples each. The chroma planes are

@@ -55,6 +55,12 @@ constexpr std::array<std::uint8_t, 64> MakeZigZag() {
 // as row * 8 + column.
 inline constexpr std::array<std::uint8_t, 64> kZigZag = MakeZigZag();
 
+// Where the transform stores the natural position row * 8 + column: it
+// writes its coefficients column-major.
+constexpr int ColumnMajorIndex(int natural) {
+  return (natural % 8) * 8 + natural / 8;
+}
+
 // Built on first use, once, and shared afterwards.
 const JpegTables& GetJpegTables();
 

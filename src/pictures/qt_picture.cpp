@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <cstring>
 
-#include "pictures/jpeg_writer.h"
+#include "pictures/picture_rows.h"
 
 namespace lp {
 
@@ -20,20 +20,39 @@ QImage OpaqueBgr(const QImage& picture) {
   return opaque.convertToFormat(QImage::Format_BGR888);
 }
 
+class QImageRows final : public RowSource {
+ public:
+  explicit QImageRows(const QImage& picture) : bgr_(OpaqueBgr(picture)) {}
+
+  std::int64_t Width() const override { return bgr_.width(); }
+  std::int64_t Height() const override { return bgr_.height(); }
+
+  bool ReadRows(std::uint8_t* rows, int count) override {
+    const std::size_t rowBytes = 3 * static_cast<std::size_t>(bgr_.width());
+    for (int r = 0; r < count; ++r, ++next_) {
+      std::memcpy(rows + r * rowBytes, bgr_.constScanLine(next_), rowBytes);
+    }
+    return true;
+  }
+
+ private:
+  QImage bgr_;
+  int next_ = 0;
+};
+
 }  // namespace
 
 bool SavePictureAsJPEG(const QImage& picture, const std::string& path, std::uint32_t options) {
   if (picture.isNull()) return false;
-  const QImage bgr = OpaqueBgr(picture);
-  Picture bitmap;
-  bitmap.header = {bgr.width(), bgr.height(), 24};
-  const std::size_t stride = BitmapStride(bgr.width(), 24);
-  bitmap.bits.resize(stride * bgr.height());
-  for (int y = 0; y < bgr.height(); ++y) {  // a bitmap stores its bottom row first
-    std::memcpy(&bitmap.bits[stride * (bgr.height() - 1 - y)], bgr.constScanLine(y),
-                3 * static_cast<std::size_t>(bgr.width()));
-  }
-  return SavePictureAsJPEG(bitmap, path, options);
+  QImageRows rows(picture);
+  return EncodeRows(rows, path, options) == JpegResult::kWritten;
+}
+
+std::unique_ptr<RowSource> OpenPicture(const std::string& path) {
+  if (auto rows = OpenPictureRows(path)) return rows;
+  const QImage picture(QString::fromUtf8(path.data(), static_cast<qsizetype>(path.size())));
+  if (picture.isNull()) return nullptr;
+  return std::make_unique<QImageRows>(picture);
 }
 
 }  // namespace lp

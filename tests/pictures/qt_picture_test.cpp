@@ -5,9 +5,11 @@
 #include <QImage>
 #include <algorithm>
 #include <cstring>
+#include <fstream>
 
 #include "app/utility_modes.h"
 #include "jpeg_test_support.h"
+#include "pictures/picture_rows.h"
 #include "pictures/qt_picture.h"
 
 namespace lp::test {
@@ -57,6 +59,73 @@ TEST(JpegMode, ConvertsPngBmpAndPpmPictures) {
   EXPECT_EQ(RunJpegMode({in.string()}), 2);
   EXPECT_EQ(RunJpegMode({in.string(), grey.string(), "--jpeg-options", "x"}), 2);
   EXPECT_EQ(RunJpegMode({(dir / "missing.png").string(), grey.string()}), 1);
+}
+
+TEST(JpegMode, OversizePicturesAreRefusedByTheirSize) {
+  const fs::path dir = FreshDirectory("oversize");
+  for (const int width : {65501, 65535, 65536}) {
+    const fs::path in = dir / "wide.ppm", out = dir / "wide.jpg";
+    std::ofstream(in, std::ios::binary) << "P6 " << width << " 1 255\n"
+                                        << std::string(3 * width, '\x10');
+    ::testing::internal::CaptureStderr();
+    EXPECT_EQ(RunJpegMode({in.string(), out.string()}), 1);
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(),
+              "图片太大：" + std::to_string(width) + "×1 像素，JPEG 图片每边最多 65500 像素。\n");
+    EXPECT_FALSE(fs::exists(out));
+  }
+}
+
+// libpng reads each kind of PNG into the pixels Qt reads from it.
+TEST(JpegMode, PngStreamsToTheFileOfQtsPixels) {
+  const fs::path dir = FreshDirectory("png");
+  const QImage colour = ToQImage(MakeTestImage(37, 21, 8));
+  QImage deep = colour.convertToFormat(QImage::Format_RGBX64);
+  struct Row {
+    const char* name;
+    QImage image;
+  };
+  const Row rows[] = {{"colour", colour},
+                      {"grey", colour.convertToFormat(QImage::Format_Grayscale8)},
+                      {"palette", colour.convertToFormat(QImage::Format_Indexed8)},
+                      {"16-bit", deep}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    const fs::path png = dir / "in.png";
+    ASSERT_TRUE(row.image.save(QString::fromStdString(png.string()), "png"));
+    const QImage read(QString::fromStdString(png.string()));
+    ASSERT_TRUE(SavePictureAsJPEG(read, (dir / "qt.jpg").string(), 0));
+    const std::unique_ptr<RowSource> rows = OpenPngRows(png.string());
+    ASSERT_NE(rows, nullptr);
+    ASSERT_EQ(EncodeRows(*rows, (dir / "strips.jpg").string(), 0), JpegResult::kWritten);
+    EXPECT_EQ(ReadBytes(dir / "strips.jpg"), ReadBytes(dir / "qt.jpg"));
+  }
+}
+
+TEST(JpegMode, TransparentPngIsLaidOnWhite) {
+  const fs::path dir = FreshDirectory("png-alpha");
+  QImage picture = ToQImage(MakeTestImage(32, 32, 9)).convertToFormat(QImage::Format_ARGB32);
+  for (int y = 0; y < 32; ++y) {
+    for (int x = 0; x < 32; ++x) {
+      const QRgb p = picture.pixel(x, y);
+      picture.setPixel(x, y, qRgba(qRed(p), qGreen(p), qBlue(p), 8 * x));
+    }
+  }
+  const fs::path png = dir / "in.png";
+  ASSERT_TRUE(picture.save(QString::fromStdString(png.string()), "png"));
+  ASSERT_TRUE(SavePictureAsJPEG(picture, (dir / "qt.jpg").string(), 100));
+  ASSERT_EQ(RunJpegMode({png.string(), (dir / "strips.jpg").string(), "--jpeg-options", "100"}), 0);
+  const QImage qt(QString::fromStdString((dir / "qt.jpg").string()));
+  const QImage strips(QString::fromStdString((dir / "strips.jpg").string()));
+  int worst = 0;
+  for (int y = 0; y < 32; ++y) {
+    for (int x = 0; x < 32; ++x) {
+      const QRgb a = qt.pixel(x, y), b = strips.pixel(x, y);
+      worst = std::max({worst, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                        std::abs(qBlue(a) - qBlue(b))});
+    }
+  }
+  EXPECT_LE(worst, 3);
+  EXPECT_GE(qGray(strips.pixel(0, 16)), 250);  // alpha 0: white
 }
 
 std::vector<std::string> warnings;
