@@ -5,7 +5,6 @@
 
 #include <unistd.h>
 
-#include <QImage>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -18,6 +17,7 @@
 #include <string>
 
 #include "libjpeg_side.h"
+#include "photograph.h"
 #include "pictures/jpeg_encoder.h"
 
 namespace {
@@ -27,27 +27,6 @@ using lp::Picture;
 
 constexpr int kSide = 4096;
 constexpr int kRuns = 5;
-
-// The photograph tiled with mirroring, so that no seams add edges a real
-// photograph of this size would not have.
-Picture MakePhotograph(const std::string& png) {
-  const QImage photo = QImage(QString::fromStdString(png)).convertToFormat(QImage::Format_BGR888);
-  if (photo.isNull()) {
-    std::fprintf(stderr, "cannot read %s\n", png.c_str());
-    std::exit(1);
-  }
-  Picture picture;
-  picture.header = {kSide, kSide, 24};
-  const std::size_t stride = lp::BitmapStride(kSide, 24);
-  picture.bits.resize(stride * kSide);
-  const auto mirror = [](int i, int n) { return (i / n) % 2 ? n - 1 - i % n : i % n; };
-  for (int y = 0; y < kSide; ++y) {
-    const std::uint8_t* in = photo.constScanLine(mirror(y, photo.height()));
-    std::uint8_t* out = &picture.bits[stride * (kSide - 1 - y)];
-    for (int x = 0; x < kSide; ++x) std::memcpy(out + 3 * x, in + 3 * mirror(x, photo.width()), 3);
-  }
-  return picture;
-}
 
 // Processor time of this process: other work on a shared machine slows the
 // wall clock far more than it slows this.
@@ -121,7 +100,7 @@ int main(int argc, char** argv) {
   const bool libjpegOnly = argc > 1 && std::string(argv[1]) == "--libjpeg-only";
   const std::string png =
       argc > 1 + libjpegOnly ? argv[1 + libjpegOnly] : std::string(LP_KODAK_DIR) + "/kodim01.png";
-  const Picture picture = MakePhotograph(png);
+  const Picture picture = lp::bench::MakePhotograph(png, kSide);
   const fs::path dir = fs::temp_directory_path() / ("bench_jpeg_" + std::to_string(getpid()));
   fs::create_directories(dir);
   const std::string ours = (dir / "ours.jpg").string(), theirs = (dir / "theirs.jpg").string();
