@@ -1,12 +1,56 @@
-#include <gtest/gtest.h>
+// The runtime's own functions raise the error numbers the tools' handlers
+// test for, and return normally on the edge of what they accept.
 
 #include "runtime/error.h"
 
-TEST(RuntimeError, CarriesTheOriginalNumbers) {
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "runtime/convert.h"
+#include "runtime/text.h"
+
+namespace lp {
+namespace {
+
+::testing::AssertionResult Raises(int number, const std::function<void()>& body) {
   try {
-    lp::RaiseOverflow();
-  } catch (const lp::RuntimeError& e) {
-    EXPECT_EQ(e.Number(), 6);
-    EXPECT_STREQ(e.what(), "Overflow");
+    body();
+  } catch (const RuntimeError& e) {
+    if (e.Number() == number) return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << "raised " << e.Number() << " (" << e.what() << ")";
   }
+  return ::testing::AssertionFailure() << "raised nothing";
 }
+
+TEST(RuntimeError, BadArgumentsRaiseTheirNumbers) {
+  struct Row {
+    const char* name;
+    int number;
+    std::function<void()> body;
+  };
+  const Row rows[] = {
+      {"CInt past 32767", kOverflow, [] { CInt(32767.5); }},
+      {"CInt below -32768", kOverflow, [] { CInt(-32768.6); }},
+      {"CLng past its range", kOverflow, [] { CLng(2147483647.5); }},
+      {"CSng past single precision", kOverflow, [] { CSng(1e39); }},
+      {"Val of 1e400", kOverflow, [] { Val(u"1e400"); }},
+      {"Mid from 0", kInvalidProcedureCall, [] { Mid(u"abc", 0); }},
+      {"Left of a negative length", kInvalidProcedureCall, [] { Left(u"abc", -1); }},
+      {"InStrRev from 0", kInvalidProcedureCall, [] { InStrRev(u"abc", u"b", 0); }},
+      {"Chr past 65535", kInvalidProcedureCall, [] { Chr(65536); }},
+      {"Asc of nothing", kInvalidProcedureCall, [] { Asc(u""); }},
+  };
+  for (const Row& row : rows) EXPECT_TRUE(Raises(row.number, row.body)) << row.name;
+}
+
+TEST(RuntimeError, EdgesThatAreAcceptedRaiseNothing) {
+  EXPECT_NO_THROW(CInt(32767.4));
+  EXPECT_NO_THROW(CInt(-32768.5));  // half to even: -32768
+  EXPECT_NO_THROW(CLng(-2147483648.0));
+  EXPECT_NO_THROW(Mid(u"abc", 4));  // past the end: empty
+  EXPECT_NO_THROW(Chr(-32768));
+}
+
+}  // namespace
+}  // namespace lp

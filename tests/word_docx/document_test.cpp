@@ -1,6 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
 #include <fstream>
+#include <iterator>
 
 #include "docx_test_util.h"
 #include "word/docx/docx_application.h"
@@ -78,6 +84,47 @@ TEST(DocxFile, RefusedFilesRaiseTheTypedErrorAndStayUntouched) {
     }
     EXPECT_EQ(ReadFile(file), r.bytes) << r.name;
   }
+}
+
+// In a child process whose files may not grow past `limit` bytes, a stand-in
+// for a full disk: types text no zip packs small and saves. Exits 0 when
+// the save failed and left the folder as it found it.
+[[noreturn]] void SaveOntoFullDisk(const std::filesystem::path& file, rlim_t limit) {
+  const std::string before = ReadFile(file);
+  std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit files{limit, limit};
+  setrlimit(RLIMIT_FSIZE, &files);
+  bool saved = false;
+  try {
+    auto app = OpenDocx(file);
+    std::u16string noise;
+    for (unsigned i = 0, x = 1; i < 6000; ++i) {
+      x = x * 1103515245u + 12345u;
+      noise += static_cast<char16_t>(0x4E00 + (x >> 16) % 5000);
+    }
+    app->Selection().TypeText(noise);
+    saved = app->SaveIfChanged();
+  } catch (const std::exception&) {
+  }
+  const bool alone = std::distance(std::filesystem::directory_iterator(file.parent_path()),
+                                   std::filesystem::directory_iterator()) == 1;
+  const bool same = ReadFile(file) == before;
+  std::fprintf(stderr, "saved %d, nothing beside %d, unchanged %d\n", saved, alone, same);
+  std::exit(!saved && alone && same ? 0 : 1);
+}
+
+TEST(DocxFile, FailedSaveLeavesTheFileAsItWas) {
+  TempDir dir;
+  const auto file = dir / "exam.docx";
+  {
+    auto app = OpenDocx(file);
+    app->Selection().TypeText(u"第一题 解方程 x+1=2");
+    ASSERT_TRUE(app->SaveIfChanged());
+  }
+  const auto size = static_cast<rlim_t>(std::filesystem::file_size(file));
+  // Below the file's own size the copy fails; above it, the new package.
+  EXPECT_EXIT(SaveOntoFullDisk(file, size / 2), ::testing::ExitedWithCode(0), "");
+  EXPECT_EXIT(SaveOntoFullDisk(file, size + 512), ::testing::ExitedWithCode(0), "");
 }
 
 TEST(DocxFile, CaretPositionOnThePageAndItsPage) {

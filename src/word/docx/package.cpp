@@ -127,7 +127,11 @@ void Package::SaveTo(const std::filesystem::path& file) const {
   if (!original_.empty()) {
     std::ofstream out(temp, std::ios::binary);
     out.write(original_.data(), static_cast<std::streamsize>(original_.size()));
-    if (!out.flush()) throw DocxFileError("无法保存文档：无法写入临时文件。");
+    if (!out.flush()) {
+      out.close();
+      std::filesystem::remove(temp);
+      throw DocxFileError("无法保存文档：无法写入临时文件。");
+    }
   }
   int error = 0;
   zip_t* z =
