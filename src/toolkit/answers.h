@@ -22,7 +22,8 @@ struct Radical {
 
 // SolveLinear: a x + b = 0 and its answer text.
 struct LinearSolution {
-  float LinearA = 0;
+  double a = 0;       // f(1) - f(0): what the answer is computed from
+  float LinearA = 0;  // a as stored for the dialogs, rounded to Single
   double LinearB = 0;
   std::u16string LinearText;
 };

@@ -63,8 +63,9 @@ LinearSolution SolveLinear(const std::u16string& equation) {
   EquationSides sides(equation);
   LinearSolution s;
   s.LinearB = sides.F(0);
-  s.LinearA = CSng(sides.F(1) - s.LinearB);
-  double a = s.LinearA, b = s.LinearB;
+  s.a = sides.F(1) - s.LinearB;
+  s.LinearA = CSng(s.a);
+  double a = s.a, b = s.LinearB;
   s.LinearText = IsWhole(a) && IsWhole(b) ? WholeCoefficientsText(a, b) : RoundedQuotientText(a, b);
   return s;
 }
@@ -95,7 +96,7 @@ std::optional<InequalitySolution> ParseInequality(const std::u16string& text, Pr
   at = InStr(normalised, s.InequalityOp);
   LinearSolution linear =
       SolveLinear(Left(normalised, at - 1) + u"= " + Mid(normalised, at + Len(s.InequalityOp)));
-  double a = linear.LinearA, b = linear.LinearB;
+  double a = linear.a, b = linear.LinearB;
   s.CoefX = a;
   s.CoefConst = b;
   if (a != 0) {

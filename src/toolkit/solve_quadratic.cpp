@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "runtime/convert.h"
+#include "runtime/error.h"
 #include "toolkit/equation_sides.h"
 #include "toolkit/exact.h"
 #include "toolkit/quotient.h"
@@ -41,6 +42,15 @@ std::u16string RootText(const QuadraticSolution& q, bool first) {
   return RadicalText(NumberText(-q.QuadB / g) + (first ? u"-" : u"+"), outer, inner, twoA, g);
 }
 
+// b^2 - 4ac with the overflow check every other step of the arithmetic has:
+// past the double's range the products would turn into infinities and NaN.
+double Discriminant(double a, double b, double c) {
+  double square = b * b, product = 4 * a * c;
+  double delta = square - product;
+  if (!std::isfinite(square) || !std::isfinite(product) || !std::isfinite(delta)) RaiseOverflow();
+  return delta;
+}
+
 }  // namespace
 
 std::optional<QuadraticSolution> SolveQuadratic(const std::u16string& equation, Prompt& prompt) {
@@ -56,7 +66,7 @@ std::optional<QuadraticSolution> SolveQuadratic(const std::u16string& equation, 
   q.QuadA = a;
   q.QuadB = b;
   q.QuadC = c;
-  q.QuadDelta = b * b - 4 * a * c;
+  q.QuadDelta = Discriminant(a, b, c);
   if (q.QuadDelta < 0) return q;
   if (q.QuadDelta == 0) {
     q.Root1 = q.Root2 = Quotient(-b, 2 * a);

@@ -6,6 +6,7 @@
 #include <random>
 #include <set>
 
+#include "runtime/error.h"
 #include "runtime/recording_prompt.h"
 #include "runtime/text.h"
 #include "runtime/utf8.h"
@@ -39,6 +40,29 @@ TEST(SolveLinear, AnswerTexts) {
   LinearSolution s = SolveLinear(u"2x+1=4");
   EXPECT_EQ(s.LinearA, 2.0f);
   EXPECT_EQ(s.LinearB, -3.0);
+}
+
+// The answer comes from a = f(1) - f(0) itself; only LinearA holds it as a
+// Single, which would round 123456789 to 123456792 and 3.2 to 3.2000000477.
+TEST(SolveLinear, ComputesWithTheUnroundedCoefficient) {
+  struct Row {
+    const char16_t* equation;
+    const char16_t* text;
+  } rows[] = {
+      {u"3.2x-13=6", u"25469 / 500"},
+      {u"123456789x=20", u"20/123456789"},
+      {u"x/3=100000", u"300000"},
+  };
+  for (const Row& r : rows)
+    EXPECT_EQ(ToUtf8(SolveLinear(r.equation).LinearText), ToUtf8(r.text)) << ToUtf8(r.equation);
+  LinearSolution s = SolveLinear(u"123456789x=20");
+  EXPECT_EQ(s.a, 123456789.0);
+  EXPECT_EQ(s.LinearA, 123456792.0f);
+  RecordingPrompt prompt;
+  std::optional<InequalitySolution> i = ParseInequality(u"123456789x>-11", prompt);
+  ASSERT_TRUE(i);
+  EXPECT_EQ(ToUtf8(i->InequalityText), "-11 / 123456789");
+  EXPECT_EQ(i->CoefX, 123456789.0);
 }
 
 TEST(ParseInequality, BoundsAndOperators) {
@@ -111,6 +135,24 @@ TEST(SolveQuadratic, RootTexts) {
   EXPECT_TRUE(prompt.Shown().empty());
   EXPECT_FALSE(SolveQuadratic(u"2x+1=0", prompt));
   EXPECT_EQ(prompt.Shown().at(0).prompt, u"您输入的不是一个二次方程！请检查后重新输入。");
+}
+
+// Past the double's range the discriminant overflows like every other step,
+// instead of turning into NaN and a complaint about whole numbers.
+TEST(SolveQuadratic, DiscriminantOverflowRaisesOverflow) {
+  RecordingPrompt prompt;
+  const std::u16string e200 = u"1" + std::u16string(200, u'0');
+  for (const std::u16string& equation :
+       {e200 + u"x^2+3*" + e200 + u"x+" + e200 + u"=0", u"x^2+" + e200 + u"x+1=0",
+        u"-" + e200 + u"x^2+x+" + e200 + u"=0"}) {
+    try {
+      SolveQuadratic(equation, prompt);
+      ADD_FAILURE() << ToUtf8(equation);
+    } catch (const RuntimeError& e) {
+      EXPECT_EQ(e.Number(), kOverflow) << ToUtf8(equation);
+    }
+  }
+  EXPECT_TRUE(prompt.Shown().empty());
 }
 
 // An answer text as a number: "p-qsqr(r)/d" means (p - q sqrt(r)) / d.
