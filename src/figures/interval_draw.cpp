@@ -8,7 +8,7 @@
 #include "runtime/text.h"
 #include "toolkit/expression.h"
 #include "toolkit/normalise.h"
-#include "word/figure.h"
+#include "session/figure.h"
 
 namespace lp {
 namespace {

@@ -10,7 +10,7 @@
 #include "toolkit/expression.h"
 #include "toolkit/normalise.h"
 #include "toolkit/quotient.h"
-#include "word/figure.h"
+#include "session/figure.h"
 
 namespace lp {
 namespace {

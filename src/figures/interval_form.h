@@ -7,7 +7,7 @@
 #include <random>
 #include <string>
 
-#include "word/session.h"
+#include "session/session.h"
 
 namespace lp {
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "word/session.h"
+#include "session/session.h"
 
 namespace lp {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "toolkit/answers.h"
-#include "word/session.h"
+#include "session/session.h"
 
 namespace lp {
 

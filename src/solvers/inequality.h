@@ -5,7 +5,7 @@
 #include <string>
 
 #include "toolkit/answers.h"
-#include "word/session.h"
+#include "session/session.h"
 
 namespace lp {
 

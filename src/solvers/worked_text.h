@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "word/session.h"
+#include "session/session.h"
 
 namespace lp {
 

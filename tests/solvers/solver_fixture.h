@@ -12,7 +12,7 @@
 #include "runtime/recording_prompt.h"
 #include "runtime/utf8.h"
 #include "word/docx/docx_application.h"
-#include "word/session.h"
+#include "session/session.h"
 
 namespace lp::testing {
 
