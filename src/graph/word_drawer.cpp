@@ -6,7 +6,7 @@
 #include "formula/insert.h"
 #include "graph/canvas.h"
 #include "word/api.h"
-#include "word/figure.h"
+#include "session/figure.h"
 
 namespace lp::graph {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "graph/axes.h"
 #include "graph/scene.h"
-#include "word/session.h"
+#include "session/session.h"
 
 namespace lp::graph {
 

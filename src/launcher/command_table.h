@@ -42,7 +42,7 @@ inline constexpr std::array<CommandRow, 41> kCommandTable{{
     {u"dot", How::kModeless, u"frmDot", false},
     {u"group", How::kRoutine, {}, false},
     {u"mhgs", How::kRoutine, {}, true},
-    {u"functiongraph", How::kModeless, u"frmGraph", false},
+    {u"functiongraph", How::kModeless, u"frmGraph", true},
     {u"gs", How::kRoutine, {}, true},
     {u"shapeselecter", How::kModal, u"frmShapeSelecter", false},
     {u"tk", How::kModeless, u"frmTK", false},

@@ -4,6 +4,7 @@
 
 #include "formula/commands.h"
 #include "formula/frmGS.h"
+#include "graph/frmGraph.h"
 #include "solvers/frmFactoring.h"
 
 namespace lp::tools {
@@ -18,6 +19,7 @@ constexpr std::array kRoutines{
 const std::array kForms{
     FormBinding{u"frmFactoring", &ui::MakeForm<frmFactoring>},
     FormBinding{u"frmGS", &ui::MakeForm<frmGS>},
+    FormBinding{u"frmGraph", &ui::MakeForm<frmGraph>},
 };
 
 }  // namespace
