@@ -83,7 +83,41 @@ void Split(const std::vector<Tick>& ticks, std::vector<Tick>& plain, std::vector
   for (const Tick& t : ticks) (HasFormulaSymbols(t.text) ? formula : plain).push_back(t);
 }
 
+std::vector<Tick> ThinAxisNumbers(const std::vector<Tick>& plain, const std::vector<Tick>& formula,
+                                  double minGap) {
+  std::vector<float> taken{0};
+  for (const std::vector<Tick>* ticks : {&plain, &formula})
+    for (const Tick& t : *ticks)
+      if (t.source != u"zbx") taken.push_back(t.value);
+  std::vector<Tick> numbers;
+  for (const Tick& t : plain)
+    if (t.source == u"zbx") numbers.push_back(t);
+  std::stable_sort(numbers.begin(), numbers.end(), [](const Tick& a, const Tick& b) {
+    return std::fabs(a.value) < std::fabs(b.value);
+  });
+  std::vector<Tick> kept;
+  for (const Tick& t : plain)
+    if (t.source != u"zbx") kept.push_back(t);
+  for (const Tick& t : numbers) {
+    bool clear = std::all_of(taken.begin(), taken.end(),
+                             [&](float at) { return std::fabs(at - t.value) >= minGap; });
+    if (!clear) continue;
+    taken.push_back(t.value);
+    kept.push_back(t);
+  }
+  std::stable_sort(kept.begin(), kept.end(),
+                   [](const Tick& a, const Tick& b) { return a.value < b.value; });
+  return kept;
+}
+
 }  // namespace
+
+TickLabels Thinned(const TickLabels& labels, double minGap) {
+  TickLabels thin = labels;
+  thin.plainX = ThinAxisNumbers(labels.plainX, labels.formulaX, minGap);
+  thin.plainY = ThinAxisNumbers(labels.plainY, labels.formulaY, minGap);
+  return thin;
+}
 
 TickLabels CollectTickLabels(std::vector<Tick> xLabels, std::vector<Tick> yLabels) {
   TickLabels labels;

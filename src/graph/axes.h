@@ -42,6 +42,11 @@ struct TickLabels {
 // formula, and a number of the axes gives way to an object's label near it.
 TickLabels CollectTickLabels(std::vector<Tick> xLabels, std::vector<Tick> yLabels);
 
+// The labels as one canvas can print them: numbers of the axes closer than
+// minGap (world units) to the origin or to a label kept before them drop out,
+// nearest the origin kept first; labels of the objects always stay.
+TickLabels Thinned(const TickLabels& labels, double minGap);
+
 // The text of a number as a label: "2", "-1.5", "0.25".
 std::u16string NumberLabel(double value);
 

@@ -35,7 +35,8 @@ frmGraph::frmGraph(Session& session) : ui::Form(session) {
   setWindowTitle(QStringLiteral("函数作图"));
   options_ = graph::SessionAxisOptions(session);
   SSTab1 = Named(new QTabWidget(this), QStringLiteral("SSTab1"));
-  SSTab1->setStyleSheet(QStringLiteral("QTabBar::tab { padding: 4px 5px; }"));
+  SSTab1->setStyleSheet(QStringLiteral("QTabBar::tab { padding: 4px 4px; }"));
+  SSTab1->setMinimumWidth(660);
   for (const graph::GraphTab& tab : graph::GraphTabs())
     SSTab1->addTab(BuildTab(tab), Q(tab.caption));
 
@@ -159,6 +160,7 @@ QLayout* frmGraph::BuildView() {
     udLenOfAxis[i]->setRange(2, 2000);
     udLenOfAxis[i]->setSingleStep(2);
     udLenOfAxis[i]->setValue(10);
+    udLenOfAxis[i]->setFixedWidth(20);  // the arrows beside the typed length
     texts[i]->setFixedWidth(44);
     zoom->addWidget(new QLabel(i == 0 ? QStringLiteral("x轴长") : QStringLiteral("y轴长"), this));
     zoom->addWidget(texts[i]);
@@ -170,9 +172,10 @@ QLayout* frmGraph::BuildView() {
 }
 
 QLayout* frmGraph::BuildLineSettings() {
-  chkNoCoordinate = Named(new QCheckBox(QStringLiteral("不画坐标轴"), this),
-                          QStringLiteral("chkNoCoordinate"));
-  chkDrawScale = Named(new QCheckBox(QStringLiteral("画刻度"), this), QStringLiteral("chkDrawScale"));
+  chkNoCoordinate =
+      Named(new QCheckBox(QStringLiteral("不画坐标轴"), this), QStringLiteral("chkNoCoordinate"));
+  chkDrawScale =
+      Named(new QCheckBox(QStringLiteral("画刻度"), this), QStringLiteral("chkDrawScale"));
   chkWG = Named(new QCheckBox(QStringLiteral("坐标网格"), this), QStringLiteral("chkWG"));
   chkMultImage = Named(new QCheckBox(QStringLiteral("在同一坐标系下显示多个函数图像"), this),
                        QStringLiteral("chkMultImage"));
@@ -180,7 +183,8 @@ QLayout* frmGraph::BuildLineSettings() {
   auto* settings = new QGroupBox(QStringLiteral("线条设置"), this);
   auto* grid = new QGridLayout(settings);
   for (int i = 0; i < 3; ++i) {
-    optXTSZ[i] = Named(new QRadioButton(Q(targets[i]), settings), QStringLiteral("optXTSZ_%1").arg(i));
+    optXTSZ[i] =
+        Named(new QRadioButton(Q(targets[i]), settings), QStringLiteral("optXTSZ_%1").arg(i));
     grid->addWidget(optXTSZ[i], 0, i);
   }
   cmbWidth = Named(new QComboBox(settings), QStringLiteral("cmbWidth"));
@@ -214,7 +218,8 @@ QLayout* frmGraph::BuildListArea() {
   List1 = Named(new QListWidget(this), QStringLiteral("List1"));
   List1->setMinimumHeight(90);
   cmdChange = Named(new QPushButton(this), QStringLiteral("cmdChange"));
-  auto* cmdResult = Named(new QPushButton(QStringLiteral("删除"), this), QStringLiteral("cmdResult"));
+  auto* cmdResult =
+      Named(new QPushButton(QStringLiteral("删除"), this), QStringLiteral("cmdResult"));
   auto* cmdReset = Named(new QPushButton(QStringLiteral("重置"), this), QStringLiteral("cmdReset"));
   auto* cmdCls = Named(new QPushButton(QStringLiteral("清屏"), this), QStringLiteral("cmdCls"));
   OnClick(cmdChange, u"cmdChange_Click", [this] { cmdChange_Click(); });

@@ -37,14 +37,17 @@ void frmGraph::Connect() {
       if (tag.empty())
         OnClick(button, std::u16string(b.name) + u"_Click", [this, tab] { ResetTab(tab); });
       else
-        OnClick(button, std::u16string(b.name) + u"_Click", [this, tab, tag] { ConfirmObject(tab, tag); });
+        OnClick(button, std::u16string(b.name) + u"_Click",
+                [this, tab, tag] { ConfirmObject(tab, tag); });
     }
     for (auto* option : page->findChildren<QRadioButton*>())
-      connect(option, &QRadioButton::toggled, this, Guard(u"opt_Click", [this, tab] { ShowFormCaptions(tab); }));
+      connect(option, &QRadioButton::toggled, this,
+              Guard(u"opt_Click", [this, tab] { ShowFormCaptions(tab); }));
   }
   connect(SSTab1, &QTabWidget::currentChanged, this,
           [this](int tab) { Guard(u"SSTab1_Click", [this, tab] { SSTab1_Click(tab); })(); });
-  connect(List1, &QListWidget::currentRowChanged, this, Guard(u"List1_Click", [this] { List1_Click(); }));
+  connect(List1, &QListWidget::currentRowChanged, this,
+          Guard(u"List1_Click", [this] { List1_Click(); }));
   connect(chkNoCoordinate, &QCheckBox::toggled, this, Guard(u"chkNoCoordinate_Click", [this] {
             graph_.ShowAxes(!chkNoCoordinate->isChecked());
             RedrawPreview();
@@ -54,8 +57,10 @@ void frmGraph::Connect() {
             RedrawPreview();
           }));
   connect(chkWG, &QCheckBox::toggled, this, Guard(u"chkWG_Click", [this] { chkWG_Click(); }));
-  connect(cmbWidth, &QComboBox::currentTextChanged, this, Guard(u"cmbWidth_Change", [this] { LineSettingsChanged(); }));
-  connect(cmbStyle, &QComboBox::currentTextChanged, this, Guard(u"cmbStyle_Change", [this] { LineSettingsChanged(); }));
+  connect(cmbWidth, &QComboBox::currentTextChanged, this,
+          Guard(u"cmbWidth_Change", [this] { LineSettingsChanged(); }));
+  connect(cmbStyle, &QComboBox::currentTextChanged, this,
+          Guard(u"cmbStyle_Change", [this] { LineSettingsChanged(); }));
   for (int axis = 0; axis < 2; ++axis) {
     connect(udLenOfAxis[axis], &QSpinBox::valueChanged, this, [this, axis](int v) {
       Guard(u"udLenOfAxis_Change", [this, axis, v] { ChangeLength(axis, v); })();
@@ -197,8 +202,8 @@ void frmGraph::ShowFormCaptions(int tab) {
   for (const graph::FormCaptions& f : graph::GraphTabs()[tab].forms) {
     int form = 0;
     for (size_t i = 0; i < f.captions.size(); ++i) {
-      auto* option = page->findChild<QRadioButton*>(
-          QStringLiteral("optType_%1_%2").arg(Q(f.group)).arg(i));
+      auto* option =
+          page->findChild<QRadioButton*>(QStringLiteral("optType_%1_%2").arg(Q(f.group)).arg(i));
       if (option && option->isChecked()) form = static_cast<int>(i);
     }
     const std::vector<const char16_t*>& captions = f.captions[form];

@@ -177,7 +177,10 @@ void GraphPreview::Paint(QPainter& painter, const QRectF& target) const {
       for (const Item& item : object.items) PaintItem(w, item, object.look);
     }
   }
-  PaintLabels(w, scene_.labels, options_);
+  // A number needs about 16 pixels of its own on the picture.
+  double pixelsPerUnit =
+      target.width() / (PreviewScaleOf(view_).right - PreviewScaleOf(view_).left);
+  PaintLabels(w, Thinned(scene_.labels, 16 / pixelsPerUnit), options_);
   painter.restore();
 }
 

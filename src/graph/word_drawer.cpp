@@ -1,12 +1,14 @@
 #include "graph/word_drawer.h"
 
+#include <algorithm>
+
 #include "formula/driver.h"
 #include "formula/font_pass.h"
 #include "formula/generators.h"
 #include "formula/insert.h"
 #include "graph/canvas.h"
-#include "word/api.h"
 #include "session/figure.h"
+#include "word/api.h"
 
 namespace lp::graph {
 namespace {
@@ -156,7 +158,10 @@ void SceneWriter::TickLabels(const graph::TickLabels& labels) {
   int counter = 0;
   auto place = [&](const Tick& tick, bool onX, bool formula) {
     std::u16string prefix = (onX ? u"x轴上刻度标注" : u"y轴上刻度标注") + NumberLabel(++counter);
-    double left = onX ? t_.X(tick.value) - 4 : (o_.ytxtLeft ? t_.orgx - 8 : t_.orgx + 2);
+    // A label left of the y axis grows leftward by a digit's width per
+    // character beyond the first, so that it never runs over the axis.
+    double wider = 5.0 * (std::max<size_t>(tick.text.size(), 1) - 1);
+    double left = onX ? t_.X(tick.value) - 4 : (o_.ytxtLeft ? t_.orgx - 8 - wider : t_.orgx + 2);
     double top = onX ? (o_.xtxtUp ? t_.orgy - 15 : t_.orgy) : t_.Y(tick.value) - 6;
     std::u16string text = tick.text;
     if (formula) text = u"{EQ " + FormulaToEq(tick.text, settings, control) + u"}";
@@ -201,7 +206,8 @@ void InsertScene(Session& s, const Scene& scene, const View& view) {
     else
       writer.Object(std::get<DrawnObject>(entry));
   }
-  writer.TickLabels(scene.labels);
+  // A number needs about 10 points of its own on the page.
+  writer.TickLabels(Thinned(scene.labels, 10 / t.scale));
   if (s.ShapeCounter > 0) CloseFigure(s, u"组合");
   s.ShapeNames.clear();
   s.ShapeCounter = 0;

@@ -20,7 +20,7 @@ INSERT INTO config (id, cName, blvalue, intvalue) VALUES
   (9, 'intK', NULL, 5),
   (10, 'intKD', NULL, 8),
   (11, 'blYkdLeft', 0, NULL),
-  (12, 'blYtxtLeft', 0, NULL),
+  (12, 'blYtxtLeft', -1, NULL),
   (13, 'blXkdUp', 0, NULL),
   (14, 'blXtxtUp', 0, NULL),
   (15, 'blAutoKD', -1, NULL),

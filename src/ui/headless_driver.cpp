@@ -1,6 +1,7 @@
 #include "ui/headless_driver.h"
 
 #include <QAbstractButton>
+#include <QAbstractSlider>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
@@ -45,6 +46,8 @@ bool SetControl(QWidget& w, const QString& value) {
     s->setValue(value.toInt());
   } else if (auto* d = qobject_cast<QDoubleSpinBox*>(&w)) {
     d->setValue(value.toDouble());
+  } else if (auto* bar = qobject_cast<QAbstractSlider*>(&w)) {
+    bar->setValue(value.toInt());
   } else if (auto* l = qobject_cast<QLabel*>(&w)) {
     l->setText(value);
   } else {

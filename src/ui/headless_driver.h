@@ -16,7 +16,7 @@ class DriverError : public std::runtime_error {
 };
 
 // Text boxes take the text, check boxes and option buttons 1 or 0, combo
-// boxes an index or an item's text, spin boxes a number. Raises DriverError
+// boxes an index or an item's text, spin boxes and scroll bars a number. Raises DriverError
 // for a control the dialog doesn't have or a value it can't take.
 void ApplyAction(QWidget& form, const ControlAction& action);
 

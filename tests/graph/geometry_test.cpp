@@ -214,6 +214,13 @@ TEST(Axes, StepsGridAndLabels) {
   for (const Tick& t : labels.formulaX) formula.push_back(t.text);
   EXPECT_EQ(plain, (std::vector<std::u16string>{u"-4", u"-3", u"-2", u"-1", u"1", u"2", u"4"}));
   EXPECT_EQ(formula, (std::vector<std::u16string>{u"@p", u"(3)/1"}));
+  // Where numbers crowd, every other one stays, nearest the origin first,
+  // and none next to an object's label or the origin.
+  TickLabels thin = Thinned(labels, 1.5);
+  std::vector<std::u16string> kept;
+  for (const Tick& t : thin.plainX) kept.push_back(t.text);
+  EXPECT_EQ(kept, (std::vector<std::u16string>{u"-4", u"-2"}));  // 2 and 4 crowd pi
+  EXPECT_EQ(thin.formulaX.size(), 2u);
   EXPECT_EQ(NumberLabel(-1.5), u"-1.5");
   EXPECT_EQ(NumberLabel(2), u"2");
 }
