@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Writes the skeleton of the demo worksheet: a title, numbered questions and,
 where a tool is to work, the text a teacher would have typed (a formula in
-notation, or a marker for the caret). The demo then selects each and runs the
+notation, or a marker for the caret). A line "---" starts a new page. The demo then selects each and runs the
 tool on it, as a teacher selects text and presses a button in Word."""
 import sys
 import zipfile
@@ -48,8 +48,13 @@ def paragraph(text, title=False, heading=False):
     return f"<w:p>{ppr}{run}</w:p>"
 
 
+PAGE_BREAK = '<w:p><w:r><w:br w:type="page"/></w:r></w:p>'
+
+
 def document(lines):
-    body = "".join(paragraph(*line) if isinstance(line, tuple) else paragraph(line) for line in lines)
+    body = "".join(
+        paragraph(*line) if isinstance(line, tuple) else line if line == PAGE_BREAK else paragraph(line)
+        for line in lines)
     sect = ('<w:sectPr><w:pgSz w:w="11906" w:h="16838"/>'
             '<w:pgMar w:top="1440" w:right="1440" w:bottom="1440" w:left="1440" '
             'w:header="851" w:footer="992" w:gutter="0"/></w:sectPr>')
@@ -66,6 +71,8 @@ def main(path, outline_path):
                 lines.append((raw[2:], True))
             elif raw.startswith("## "):
                 lines.append((raw[3:], False, True))
+            elif raw == "---":
+                lines.append(PAGE_BREAK)
             else:
                 lines.append(raw)
     with zipfile.ZipFile(path, "w", zipfile.ZIP_DEFLATED) as z:

@@ -199,6 +199,9 @@ void InsertScene(Session& s, const Scene& scene, const View& view) {
   AxisOptions options = SessionAxisOptions(s);
   word::PageSetup& page = s.WordApp->ActiveDocument().PageSetup();
   PageTransform t = PageTransformOf(page.PageWidth(), page.PageHeight(), options.intK, view);
+  // Formula labels select inside their text boxes; the figure still goes to
+  // the caret the teacher left.
+  std::unique_ptr<word::Range> caret = s.WordApp->Selection().Range();
   SceneWriter writer(s, t, options);
   for (const SceneEntry& entry : scene.entries) {
     if (auto* axes = std::get_if<AxesDrawing>(&entry))
@@ -208,6 +211,7 @@ void InsertScene(Session& s, const Scene& scene, const View& view) {
   }
   // A number needs about 10 points of its own on the page.
   writer.TickLabels(Thinned(scene.labels, 10 / t.scale));
+  IgnoringWordErrors([&] { caret->Select(); });
   if (s.ShapeCounter > 0) CloseFigure(s, u"组合");
   s.ShapeNames.clear();
   s.ShapeCounter = 0;

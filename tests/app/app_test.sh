@@ -24,6 +24,17 @@ setting() {
   [[ -e "$db" ]] || "$lp" --eq x --config "$db" < /dev/null > /dev/null
   sqlite3 "$db" "UPDATE config SET blvalue = $2 WHERE cName = '$1'"
 }
+# The figures anchored in the body, and the name bases of all their shapes.
+anchors() { body "$1" | grep -o '<wp:anchor' | wc -l; }
+shape_bases() { body "$1" | grep -o 'cNvPr id="[0-9]*" name="[^"]*"' | sed 's/.*name="//; s/：.*//' | sort -u; }
+has_shapes() {
+  local doc="$1" bases
+  shift
+  bases="$(shape_bases "$doc")"
+  for base in "$@"; do
+    grep -qxF "$base" <<< "$bases" || fail "no shape $base in: $(tr '\n' ' ' <<< "$bases")"
+  done
+}
 # The characters that carry a size, and those that carry a font or slant.
 sized() { dump chars "$1" | awk -F'\t' '$4 != "-" { printf "%s:%s ", $1, $4 }'; }
 styled() { dump chars "$1" | awk -F'\t' '$2 $3 != "--" { printf "%s:%s:%s ", $1, $2, $3 }'; }
@@ -142,6 +153,47 @@ mhgs)
   before="$(body t.docx)"
   run mhgs --doc t.docx
   [[ "$(body t.docx)" == "$before" ]] || fail "a second run changed the formula"
+  ;;
+graph_sine)
+  # y = sin x over one period by the five-point method, its marks and pi labels.
+  run functiongraph --doc t.docx --set txtLenOfAxis_x=8 --set HScrollx=-3 --set txtLenOfAxis_y=4 \
+    --set optFW_0=1 --set optFS_2=1 --set txtXmin_SJ=1 --set txtXmax_SJ=0 --click cmdOK_sin \
+    --grab preview.png --click cmdOK --click cmdCancel
+  [[ "$(anchors t.docx)" == 1 ]] || fail "not one figure"
+  body t.docx | grep -q '<wp:docPr id="[0-9]*" name="组合：' || fail "the group is not named"
+  has_shapes t.docx x轴 y轴 x轴标记 y轴标记 原点 正弦函数 "(@p)/2竖线" "(@p)/2横线" "(3@p)/2竖线" \
+    x轴上刻度标注1 y轴上刻度标注5
+  [[ "$(body t.docx | grep -o 'EQ \\F(' | wc -l)" == 2 ]] || fail "pi/2 and 3pi/2 are not EQ fractions"
+  [[ -s preview.png ]] || fail "no preview"
+  ;;
+graph_conics)
+  run functiongraph --doc t.docx --set txtLenOfAxis_x=16 --set txtLenOfAxis_y=16 \
+    --set optType_Y_1=1 --set txtY_0=-4 --set txtY_1=4 --set txtY_2=2 --set chkCentreOfCircle=1 \
+    --click cmdOK_Y --set optType_TY_0=1 --set txtTY_0=16 --set txtTY_1=9 --set chkFocus_TY=1 \
+    --click cmdOK_TY --set optType_SQX_0=1 --set txtSQX_0=4 --set txtSQX_1=5 --set txtXmin_SQX=-6 \
+    --set txtXmax_SQX=6 --set chkFocus_SQX=1 --set chkJJX_SQX=1 --click cmdOK_SQX \
+    --set optType_PWX_3=1 --set txtPWX_0=2 --set chkFocus_PWX=1 --set chkDirectrix_PWX=1 \
+    --click cmdOK_PWX --click cmdOK --click cmdCancel
+  [[ "$(anchors t.docx)" == 1 ]] || fail "not one figure"
+  has_shapes t.docx 圆 圆心 椭圆 椭圆左焦点 椭圆右焦点 双曲线左支 双曲线右支 左焦点 右焦点 渐近线 \
+    抛物线 抛物线焦点 抛物线准线
+  ;;
+graph_lines)
+  run functiongraph --doc t.docx --set optType_ZX_2=1 --set "txtZX_0=(-2,-1)" --set "txtZX_1=(2,3)" \
+    --click cmdOK_ZX_0 --set "txtPoint=(2,3)" --set txtPointName=A --click cmdDrawPoint \
+    --click cmdOK --click cmdCancel
+  has_shapes t.docx 直线 点 A点标注 标示横坐标的虚线 标示纵坐标的虚线
+  ;;
+graph_refused)
+  run functiongraph --doc t.docx --click cmdOK --click cmdCancel
+  cp t.docx before.docx
+  out="$(run functiongraph --doc t.docx --set optType_Y_0=1 --set txtY_0=-1 --click cmdOK_Y \
+    --set optType_TY_0=1 --set txtTY_0=4 --set txtTY_1=9 --click cmdOK_TY \
+    --set txtExp="x+*(" --click cmdOK_Any --click cmdCancel 2>&1)"
+  [[ "$out" == *"圆的半径不能为负或者零，请检查后重新输入。"* ]] || fail "no radius message: $out"
+  [[ "$out" == *"椭圆中a要大于b，请检查你的数据！"* ]] || fail "no ellipse message: $out"
+  [[ "$out" == *"您输入的函数表达式有误，请检查！"* ]] || fail "no expression message: $out"
+  cmp -s t.docx before.docx || fail "refused objects changed the document"
   ;;
 *)
   fail "unknown check $check"
