@@ -142,6 +142,18 @@ std::u16string Replace(const std::u16string& s, const std::u16string& find,
   return out.append(s, from);
 }
 
+std::vector<std::u16string> Split(const std::u16string& s, const std::u16string& delimiter) {
+  if (s.empty()) return {};
+  if (delimiter.empty()) return {s};
+  std::vector<std::u16string> pieces;
+  size_t from = 0;
+  for (size_t at; (at = s.find(delimiter, from)) != std::u16string::npos;
+       from = at + delimiter.size())
+    pieces.push_back(s.substr(from, at - from));
+  pieces.push_back(s.substr(from));
+  return pieces;
+}
+
 std::u16string LTrim(const std::u16string& s) {
   auto it = std::find_if_not(s.begin(), s.end(), IsTrimBlank);
   return std::u16string(it, s.end());

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace lp {
 
@@ -30,6 +31,10 @@ int32_t InStrRev(const std::u16string& s, const std::u16string& find, int32_t st
 // leaves s unchanged.
 std::u16string Replace(const std::u16string& s, const std::u16string& find,
                        const std::u16string& with);
+
+// The pieces between the delimiters: one piece more than delimiters, empty
+// pieces kept; an empty text gives no piece.
+std::vector<std::u16string> Split(const std::u16string& s, const std::u16string& delimiter);
 
 // Remove blanks (the ASCII space and, as on a Chinese system, the
 // ideographic space U+3000) at the ends.

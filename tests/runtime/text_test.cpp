@@ -37,6 +37,11 @@ TEST(Text, RewritesWholeStrings) {
   EXPECT_EQ(Replace(u"aaa", u"aa", u"b"), u"ba");
   EXPECT_EQ(Replace(u"log(x)log", u"log", u"ln"), u"ln(x)ln");
   EXPECT_EQ(Replace(u"abc", u"", u"x"), u"abc");
+  using Pieces = std::vector<std::u16string>;
+  EXPECT_EQ(Split(u"3,5,,4", u","), (Pieces{u"3", u"5", u"", u"4"}));
+  EXPECT_EQ(Split(u"2:1", u"@@"), Pieces{u"2:1"});
+  EXPECT_EQ(Split(u"a@@b@@", u"@@"), (Pieces{u"a", u"b", u""}));
+  EXPECT_TRUE(Split(u"", u",").empty());
   EXPECT_EQ(Trim(u"  a b \u3000"), u"a b");
   EXPECT_EQ(LTrim(u"  a "), u"a ");
   EXPECT_EQ(RTrim(u"  a "), u"  a");
