@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <set>
 
 #include "runtime/convert.h"
 #include "runtime/error.h"
@@ -38,6 +39,7 @@ struct Chart {
   double W = 0, H = 0, classWidth = 0, firstValue = 0;
   double S = 0, T = 0, t = 0, w = 0, pad = 0, D = 0, offset = 0;
   int n = 0;
+  std::set<int16_t> marked;  // values whose mark stands already
   figures::ShapeList shapes;
 
   double X(double x) const { return r.originX + x; }
@@ -147,7 +149,10 @@ void Column(Chart& c, int i, int16_t value, const Random& rnd) {
 }
 
 // The dashed line from the y axis at the height of the value, and its label.
+// A value marked already is not marked again: two equal labels on one spot
+// print as one smudged label.
 void ValueMark(Chart& c, int i, int16_t value) {
+  if (!c.marked.insert(value).second) return;
   const double y = c.Y(value);
   const std::u16string text = Number(value);
   if (!c.r.framed) {

@@ -6,7 +6,7 @@
 
 #include "runtime/convert.h"
 #include "runtime/text.h"
-#include "word/figure.h"
+#include "session/figure.h"
 
 namespace lp::figures {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "figures/shape_list.h"
-#include "word/session.h"
+#include "session/session.h"
 
 namespace lp::figures {
 

@@ -2,9 +2,13 @@
 
 #include <array>
 
+#include "charts/frmSXT.h"
+#include "charts/frmZFT.h"
+#include "figures/frmXDT.h"
 #include "formula/commands.h"
 #include "formula/frmGS.h"
 #include "graph/frmGraph.h"
+#include "solvers/commands.h"
 #include "solvers/frmFactoring.h"
 
 namespace lp::tools {
@@ -14,12 +18,16 @@ constexpr std::array kRoutines{
     RoutineBinding{u"test", &TestCommand},
     RoutineBinding{u"mhgs", &MhgsCommand},
     RoutineBinding{u"gs", &GsCommand},
+    RoutineBinding{u"shushi", &ShuShiCommand},
 };
 
 const std::array kForms{
     FormBinding{u"frmFactoring", &ui::MakeForm<frmFactoring>},
     FormBinding{u"frmGS", &ui::MakeForm<frmGS>},
     FormBinding{u"frmGraph", &ui::MakeForm<frmGraph>},
+    FormBinding{u"frmXDT", &ui::MakeForm<frmXDT>},
+    FormBinding{u"frmZFT", &ui::MakeForm<frmZFT>},
+    FormBinding{u"frmSXT", &ui::MakeForm<frmSXT>},
 };
 
 }  // namespace

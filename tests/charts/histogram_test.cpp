@@ -53,6 +53,10 @@ TEST(Histogram, RelativeFrequencyLabelsAndTheFractionCaption) {
   EXPECT_TRUE(caption->textIsEqField);
   EXPECT_EQ(caption->text, u"EQ \\F(频率,组距)");
 
+  int labels = 0;
+  for (const FigureShape& s : shapes) labels += s.name.starts_with(u"频率/组距y");
+  EXPECT_EQ(labels, 5);  // 3, 4, 5, 6, 7: repeated values are marked once
+
   r.captionY = u"频率";
   caption = Named(Histogram(r, NoRandom).shapes, u"频率/组距文字标注");
   EXPECT_FALSE(caption->textIsEqField);

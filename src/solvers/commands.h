@@ -1,0 +1,13 @@
+#pragma once
+// The command words of the solvers that run without a dialog.
+
+#include "session/frontend.h"
+#include "session/session.h"
+
+namespace lp {
+
+// shushi: the selected sum as a column calculation at the caret; the run
+// ends when it is drawn or refused.
+void ShuShiCommand(Session& session, Frontend& ui);
+
+}  // namespace lp
