@@ -36,8 +36,6 @@ frmSXT::frmSXT(Session& session) : ui::Form(session) {
   optColor[1] = ui::NamedOption(this, QStringLiteral("optColor_1"), QStringLiteral("随机阴影"));
   auto* cmdOK0 = ui::NamedButton(this, QStringLiteral("cmdOK_0"), QStringLiteral("确定"));
   auto* cmdOK1 = ui::NamedButton(this, QStringLiteral("cmdOK_1"), QStringLiteral("退出"));
-  optData[0]->setChecked(true);
-  optColor[0]->setChecked(true);
 
   auto* grid = new QGridLayout(this);
   grid->addWidget(Row(this, optData[0], optData[1]), 0, 0, 1, 4);
@@ -50,6 +48,9 @@ frmSXT::frmSXT(Session& session) : ui::Form(session) {
   grid->addWidget(Row(this, optColor[0], optColor[1]), 3, 1, 1, 3);
   grid->addWidget(cmdOK0, 4, 2);
   grid->addWidget(cmdOK1, 4, 3);
+  // Each pair of options is exclusive only once it sits in its own box.
+  optData[0]->setChecked(true);
+  optColor[0]->setChecked(true);
 
   OnClick(cmdCls, u"cmdCls_Click", [this] { txtData->clear(); });
   // Parts that add up to 0 have no handler: the error ends the run, before

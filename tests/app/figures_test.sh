@@ -1,0 +1,130 @@
+#!/usr/bin/env bash
+# figures_test.sh CHECK LUMENPAD: one end-to-end check of a figure tool on a
+# temporary .docx, judged from the shapes the document holds.
+set -euo pipefail
+check="$1" lp="$2"
+here="$(cd "$(dirname "$0")" && pwd)"
+work="$(mktemp -d)"
+trap 'rm -rf "$work"' EXIT
+cd "$work"
+db="$work/config.db"
+
+fail() { echo "FAIL: $*" >&2; exit 1; }
+run() { "$lp" "$@" --config "$db"; }
+shapes() { python3 "$here/figure_dump.py" "$1"; }
+seed() {
+  local out="$1"
+  shift
+  printf '%s\n' "$@" > lines.txt
+  python3 "$here/../../demo/seed_worksheet.py" "$out" lines.txt
+}
+# judge FILE PYTHON: runs the check with rows = the shapes of FILE as lists.
+judge() {
+  shapes "$1" > shapes.tsv
+  python3 - "$2" <<'PY'
+import sys
+rows = [line.rstrip("\n").split("\t") for line in open("shapes.tsv", encoding="utf-8")]
+def num(row, i): return float(row[i])
+def named(base): return [r for r in rows if r[1] == base]
+def starting(prefix): return [r for r in rows if r[1].startswith(prefix)]
+exec(sys.argv[1])
+PY
+}
+
+case "$check" in
+segment)
+  seed t.docx "线段图：【图】"
+  run xdt --doc t.docx --select "【图】" --set txtBL=2：1：1 --click cmdOK --click cmdExit
+  judge t.docx '
+assert {r[0] for r in rows} == {"区间"}, rows
+ticks = sorted(num(r, 3) for r in starting("线段竖线"))
+assert len(ticks) == 4 and len(starting("线段横线")) == 3, rows
+u = 8 * 28.4 / 4
+assert all(abs((t - ticks[0]) - k * u) < 0.05 for t, k in zip(ticks, (0, 2, 3, 4))), ticks
+'
+  ;;
+segment_state)
+  seed t.docx "线段图：【图】"
+  run xdt --doc t.docx --set optDF=1 --set txtDF=5 --set txtLen_0=10 --click cmdExit
+  run xdt --doc t.docx --select "【图】" --click cmdOK --click cmdExit
+  judge t.docx '
+assert len(starting("线段竖线")) == 6 and len(starting("线段横线")) == 5, rows
+width = max(num(r, 3) for r in rows) - min(num(r, 3) for r in rows)
+assert abs(width - 10 * 28.4) < 0.05, width
+'
+  ;;
+shushi)
+  seed t.docx "乘法：12*34" "除法：987654/37"
+  run shushi --doc t.docx --select "12*34"
+  run shushi --doc t.docx --select "987654/37"
+  judge t.docx '
+groups = {}
+for r in rows:
+    if r[1].startswith("ss_("):
+        row, col = map(int, r[1][4:-1].split(","))
+        groups.setdefault(len(groups) if (row, col) == (1, 1) else len(groups) - 1, {})[(row, col)] = r[7]
+        assert abs(num(r, 3) - 20 * (col - 1)) < 0.01 and abs(num(r, 4) - 20 * (row - 1)) < 0.01, r
+def number_at(cells, row, last, value):
+    for place, digit in enumerate(reversed(str(value))):
+        assert cells.get((row, last - place)) == digit, (row, last - place, value, cells)
+mul, div = groups[0], groups[1]
+cols = max(c for _, c in mul)
+number_at(mul, 1, cols, 12); number_at(mul, 2, cols, 34)
+number_at(mul, 3, cols, 12 * 4); number_at(mul, 4, cols - 1, 12 * 3); number_at(mul, 5, cols, 12 * 34)
+assert mul[(2, 1)] == "×"
+assert len([r for r in rows if r[1] in ("竖式横线1", "竖式横线2")]) >= 2
+cols = max(c for _, c in div)
+number_at(div, 1, cols, 987654 // 37); number_at(div, 2, 2, 37); number_at(div, 2, cols, 987654)
+number_at(div, max(r for r, _ in div), cols, 987654 % 37)
+bracket = named("除法竖式括号")
+assert len(bracket) == 1 and bracket[0][2].startswith("path")
+'
+  out="$(run shushi --doc t.docx --select "乘法" --answer "0+3" 2>&1)"
+  [[ "$out" == *"目前只支持正整数的运算，请检查您输入的数据。"* ]] || fail "no refusal: $out"
+  ;;
+histogram)
+  seed t.docx "直方图：【图】"
+  run zft --doc t.docx --select "【图】" --set optZFT_1=1 --click cmdOK_0 --click cmdOK_1
+  judge t.docx '
+bars = sorted((r for r in starting("柱状图") if r[2] == "rect"), key=lambda r: num(r, 3))
+data = [3, 5, 6, 4, 7, 5, 4]
+assert len(bars) == 7, rows
+for a, b in zip(bars, bars[1:]):
+    assert abs(num(a, 3) + num(a, 5) - num(b, 3)) < 0.02, (a, b)
+unit = num(bars[0], 6) / data[0]
+for bar, value in zip(bars, data):
+    assert abs(num(bar, 6) - unit * value) < 0.02, (bar, value)
+    assert abs(num(bar, 4) + num(bar, 6) - (num(bars[0], 4) + num(bars[0], 6))) < 0.02
+first = named("频率/组距y 1")
+assert first and first[0][7] == "0.009", first
+assert named("频率/组距文字标注")[0][7] == r"EQ \F(频率,组距)", named("频率/组距文字标注")
+labels = sorted((num(r, 4), r[7]) for r in starting("频率/组距y"))
+assert all(b[0] - a[0] >= 10 for a, b in zip(labels, labels[1:])), labels  # 10-point text
+'
+  ;;
+histogram_state)
+  seed t.docx "直方图：【图】"
+  run zft --doc t.docx --set optZFT_2=1 --set txtData=1,2,3 --set txtTextX=年级 --click cmdOK_1
+  [[ "$(sqlite3 "$db" "select data from record where id=5")" == \
+     " 2@@6@@4@@20@@10@@年级@@数量@@100@@700@@100@@1,2,3@@0@@0@@3@@0@@0" ]] ||
+    fail "slot 5: $(sqlite3 "$db" "select data from record where id=5")"
+  run zft --doc t.docx --select "【图】" --click cmdOK_0 --click cmdOK_1
+  judge t.docx '
+assert len(starting("条形图") ) == 9 and named("样本文字标注")[0][7] == "年级", rows
+'
+  ;;
+pie)
+  seed t.docx "扇形图：【图】"
+  run sxt --doc t.docx --select "【图】" --set txtData=10,35:25：30 --set chkColor=1 --click cmdOK_0 --click cmdOK_1
+  judge t.docx '
+sectors = starting("扇形")
+assert [r[1] for r in sectors] == ["扇形10", "扇形35", "扇形25", "扇形30"], rows
+assert all(int(r[2].split(":")[1]) % 3 == 1 for r in sectors), sectors
+'
+  [[ "$(sqlite3 "$db" "select data from record where id=7")" == "0@@2@@0@@10,35:25：30" ]] ||
+    fail "slot 7: $(sqlite3 "$db" "select data from record where id=7")"
+  ;;
+*)
+  fail "unknown check $check"
+  ;;
+esac
