@@ -18,6 +18,12 @@ Sampler ExpressionSampler(const std::u16string& normalised) {
 }
 
 double Round3(double v) {
+  // Away from a half and from large values the text's rounding is plain
+  // rounding to the nearest thousandth, and a whole number of thousandths
+  // divided by 1000 is the double the text reads back as.
+  double scaled = v * 1000, whole = std::floor(scaled), fraction = scaled - whole;
+  if (std::fabs(v) < 1e5 && std::fabs(fraction - 0.5) > 1e-6)
+    return (fraction > 0.5 ? whole + 1 : whole) / 1000;
   return Val(Format(v, u"#.###"));
 }
 

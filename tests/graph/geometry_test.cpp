@@ -66,6 +66,15 @@ TEST(Sampling, PrepareNodesCounts) {
   EXPECT_TRUE(SampleNodes(ExpressionSampler(u"x"), 0, 0.02).empty());
 }
 
+TEST(Sampling, RoundingAgreesWithTheText) {
+  // Every node goes through "#.###"; the quick rounding must give the same
+  // double as the text, halves and large values included.
+  std::vector<double> values{0.0005,  1.0005,   -1.0005,    2.675,
+                             -0.0004, 123.4565, 99999.9995, 1e7 + 0.0015};
+  for (int i = -20000; i <= 20000; ++i) values.push_back(i * 0.0137 + 0.00005 * (i % 7));
+  for (double v : values) EXPECT_EQ(Round3(v), Val(Format(v, u"#.###"))) << v;
+}
+
 TEST(Sampling, ScanFindsThePoles) {
   std::vector<Segment> reciprocal = ScanSegments(ExpressionSampler(u"1/x"), -5, 5, View{}, true);
   ASSERT_EQ(reciprocal.size(), 2u);
