@@ -26,7 +26,7 @@ set(LP_LAYERS
   "figures:runtime word errorlog settings session toolkit formula"
   "solvers:runtime word errorlog settings session toolkit formula figures"
   "charts:runtime word errorlog settings session toolkit formula figures"
-  "graph:runtime word errorlog settings session toolkit formula figures"
+  "graph:runtime word errorlog settings session toolkit formula figures pictures"
   "inserts:runtime word errorlog settings session toolkit formula"
   "batch:runtime word errorlog settings session toolkit formula"
   "launcher:runtime word errorlog settings session"

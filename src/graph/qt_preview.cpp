@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "formula/generators.h"
 #include "graph/canvas.h"
 
 namespace lp::graph {
@@ -63,6 +64,21 @@ class WorldPainter {
     if (flags & Qt::AlignTop) box.moveTop(at.y());
     if (flags & Qt::AlignBottom) box.moveBottom(at.y());
     p_.drawText(box, flags, text);
+    p_.restore();
+  }
+  // A formula picture placed as Text places its text.
+  void Formula(double x, double y, const FormulaPicture& formula, int flags) {
+    QPointF at = map_.map(QPointF(x, y));
+    QSizeF size = formula.Size();
+    double left = flags & Qt::AlignLeft    ? at.x()
+                  : flags & Qt::AlignRight ? at.x() - size.width()
+                                           : at.x() - size.width() / 2;
+    double top = flags & Qt::AlignTop      ? at.y()
+                 : flags & Qt::AlignBottom ? at.y() - size.height()
+                                           : at.y() - size.height() / 2;
+    p_.save();
+    p_.resetTransform();
+    formula.Paint(p_, QPointF(left, top));
     p_.restore();
   }
   QPainter& painter() { return p_; }
@@ -129,20 +145,28 @@ void PaintLabels(WorldPainter& w, const TickLabels& labels, const AxisOptions& o
   font.setPixelSize(11);
   w.painter().setFont(font);
   w.painter().setPen(Qt::black);
-  auto text = [](const Tick& t, bool formula) {
-    return formula ? ReadableLabel(t.text) : QString::fromStdU16String(t.text);
-  };
-  for (bool formula : {false, true}) {
-    for (const Tick& t : formula ? labels.formulaX : labels.plainX)
-      w.Text(t.value, o.xtxtUp ? 2 * u : -2 * u, text(t, formula),
-             Qt::AlignHCenter | (o.xtxtUp ? Qt::AlignBottom : Qt::AlignTop));
-    for (const Tick& t : formula ? labels.formulaY : labels.plainY)
-      w.Text(o.ytxtLeft ? -2 * u : 2 * u, t.value, text(t, formula),
-             Qt::AlignVCenter | (o.ytxtLeft ? Qt::AlignRight : Qt::AlignLeft));
-  }
+  int xFlags = Qt::AlignHCenter | (o.xtxtUp ? Qt::AlignBottom : Qt::AlignTop);
+  int yFlags = Qt::AlignVCenter | (o.ytxtLeft ? Qt::AlignRight : Qt::AlignLeft);
+  double xAt = o.xtxtUp ? 2 * u : -2 * u, yAt = o.ytxtLeft ? -2 * u : 2 * u;
+  for (const Tick& t : labels.plainX)
+    w.Text(t.value, xAt, QString::fromStdU16String(t.text), xFlags);
+  for (const Tick& t : labels.plainY)
+    w.Text(yAt, t.value, QString::fromStdU16String(t.text), yFlags);
+  // Formula labels are typeset, as the formula engine writes them in LaTeX.
+  for (const Tick& t : labels.formulaX) w.Formula(t.value, xAt, LabelFormula(t.text), xFlags);
+  for (const Tick& t : labels.formulaY) w.Formula(yAt, t.value, LabelFormula(t.text), yFlags);
 }
 
 }  // namespace
+
+FormulaPicture LabelFormula(const std::u16string& text) {
+  try {
+    std::u16string latex = FormulaToFinishedLatex(text, FormulaSettings{}, DriverControl{});
+    return FormulaPicture(QString::fromStdU16String(latex), 14);
+  } catch (const std::exception&) {
+    return FormulaPicture(ReadableLabel(text), 12);
+  }
+}
 
 QString ReadableLabel(const std::u16string& text) {
   QString s = QString::fromStdU16String(text);

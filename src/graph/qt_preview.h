@@ -6,6 +6,7 @@
 
 #include "graph/axes.h"
 #include "graph/scene.h"
+#include "pictures/qt_formula.h"
 
 namespace lp::graph {
 
@@ -27,8 +28,9 @@ class GraphPreview : public QWidget {
   AxisOptions options_;
 };
 
-// A formula label as the preview prints it when typesetting is not at hand:
-// "(3@p)/2" reads "3π/2".
+// A formula label in answer notation ("(3@p)/2") typeset for the preview.
+FormulaPicture LabelFormula(const std::u16string& text);
+// The label as plain text, "3π/2", where the formula engine gives up on it.
 QString ReadableLabel(const std::u16string& text);
 
 }  // namespace lp::graph
