@@ -124,6 +124,26 @@ assert all(int(r[2].split(":")[1]) % 3 == 1 for r in sectors), sectors
   [[ "$(sqlite3 "$db" "select data from record where id=7")" == "0@@2@@0@@10,35:25：30" ]] ||
     fail "slot 7: $(sqlite3 "$db" "select data from record where id=7")"
   ;;
+render)
+  # LibreOffice lays the page out: a figure lands on its caret's line, also
+  # far down a page of 1.5-spaced paragraphs.
+  command -v soffice >/dev/null || exit 77
+  lines=()
+  for i in $(seq 1 14); do lines+=("第${i}行：练习"); done
+  seed t.docx "${lines[@]}" "线段图：【图】"
+  run xdt --doc t.docx --select "【图】" --click cmdOK --click cmdExit
+  soffice --headless --convert-to pdf t.docx > /dev/null 2>&1 || fail "LibreOffice failed"
+  pdftotext -bbox t.pdf t.html
+  unzip -p t.docx word/document.xml > body.xml
+  python3 - <<'PY' || fail "the figure is not on its caret's line"
+import re
+html = open("t.html", encoding="utf-8").read()
+line = [float(m) for m in re.findall(r'yMin="([0-9.]+)"[^>]*>线段图', html)]
+offsets = re.findall(r'<wp:positionV relativeFrom="page"><wp:posOffset>(-?[0-9]+)', open("body.xml", encoding="utf-8").read())
+top = int(offsets[-1]) / 12700
+assert line and abs(top - line[0]) < 15, (top, line)  # line top above the glyphs
+PY
+  ;;
 *)
   fail "unknown check $check"
   ;;

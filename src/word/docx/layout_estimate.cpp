@@ -24,6 +24,23 @@ float Ems(const char* s, long from, long to) {
   return ems;
 }
 
+// A spacing value of the paragraph, else of the document's defaults.
+float Spacing(pugi::xml_node own, pugi::xml_node defaults, const char* attr, float fallback) {
+  return Twips(own.attribute(attr) ? own : defaults, attr, fallback);
+}
+
+// Single lines are 1.3 times the font size; w:line counts 240ths of that
+// when the rule is "auto" (or absent), points otherwise.
+float LineHeight(pugi::xml_node own, pugi::xml_node defaults, float fontSize) {
+  pugi::xml_node spacing = own.attribute("w:line") ? own : defaults;
+  const float single = fontSize * 1.3f;
+  if (!spacing.attribute("w:line")) return single;
+  const float line = Twips(spacing, "w:line", 0);
+  const char* rule = spacing.attribute("w:lineRule").value();
+  if (!*rule || !std::strcmp(rule, "auto")) return single * line / 12.0f;
+  return !std::strcmp(rule, "exact") ? line : std::max(single, line);
+}
+
 struct Paragraph {
   long start = 0, end = 0;  // positions, end = the mark
   float lineHeight = 15.6f, fontSize = 10.5f, before = 0, after = 0, indent = 0;
@@ -43,10 +60,12 @@ std::vector<Paragraph> Paragraphs(const StoryIndex& ix, const StyleSheet& styles
     pugi::xml_node firstRun = node.child("w:r");
     CharFormat f = styles.Effective(firstRun ? firstRun : node.child("w:pPr"), node);
     p.fontSize = f.halfPoints.value_or(21) / 2.0f;
-    p.lineHeight = std::max(p.fontSize * 1.3f, page.linePitch);
     pugi::xml_node pPr = node.child("w:pPr");
-    p.before = Twips(pPr.child("w:spacing"), "w:before", 0);
-    p.after = Twips(pPr.child("w:spacing"), "w:after", 0);
+    pugi::xml_node spacing = pPr.child("w:spacing");
+    p.lineHeight =
+        std::max(LineHeight(spacing, styles.DefaultSpacing(), p.fontSize), page.linePitch);
+    p.before = Spacing(spacing, styles.DefaultSpacing(), "w:before", 0);
+    p.after = Spacing(spacing, styles.DefaultSpacing(), "w:after", 0);
     p.indent = Twips(pPr.child("w:ind"), "w:left", 0);
     p.pageBreakBefore = static_cast<bool>(pPr.child("w:pageBreakBefore"));
     out.push_back(p);

@@ -35,6 +35,8 @@ void StyleSheet::Load(pugi::xml_node styles, pugi::xml_node theme) {
   defaults_.scaling = 100;
   defaults_.color = -16777216;
   defaults_.Overlay(Read(styles.child("w:docDefaults").child("w:rPrDefault").child("w:rPr")));
+  defaultSpacing_ =
+      styles.child("w:docDefaults").child("w:pPrDefault").child("w:pPr").child("w:spacing");
   for (pugi::xml_node s : styles.children("w:style")) {
     std::string id = s.attribute("w:styleId").value();
     styles_[id] = s;

@@ -19,6 +19,8 @@ class StyleSheet {
   CharFormat Effective(pugi::xml_node run, pugi::xml_node paragraph) const;
   // Direct properties as Font reads them, theme fonts resolved.
   CharFormat Read(pugi::xml_node rPr) const;
+  // The paragraph spacing of the document's defaults (w:spacing), or none.
+  pugi::xml_node DefaultSpacing() const { return defaultSpacing_; }
 
  private:
   CharFormat StyleChain(const std::string& id, int depth) const;
@@ -26,6 +28,7 @@ class StyleSheet {
   std::map<std::string, pugi::xml_node> styles_;
   std::string defaultParagraphStyle_;
   CharFormat defaults_;
+  pugi::xml_node defaultSpacing_;
   std::map<std::string, std::u16string> themeFonts_;  // "minorHAnsi" -> name
   mutable std::map<std::string, CharFormat> cache_;
 };
