@@ -5,7 +5,7 @@
 #include <string>
 
 #include "harness.h"
-#include "word/session.h"
+#include "session/session.h"
 
 namespace comtest {
 
