@@ -3,6 +3,7 @@
 #include "formula/commands.h"
 #include "runtime/recording_prompt.h"
 #include "session/document_init.h"
+#include "session/figure.h"
 #include "solvers/factoring.h"
 
 namespace comtest {
@@ -27,6 +28,31 @@ void DocumentInit(lp::Session& session) {
   Running connector(*session.WordApp);
   session.programFolder = u"C:\\lumenpad";
   if (!lp::Document_Init(session, connector, [] {})) throw word::ComError(0, "not connected");
+}
+
+// Names a shape of the figure being drawn, as the figure tools do.
+void Name(lp::Session& session, word::Shape& shape, const std::u16string& base) {
+  ++session.ShapeCounter;
+  shape.SetName(lp::MakeShapeName(session, base));
+}
+
+// The figure path every drawing tool ends on: shapes made, named, grouped at the caret.
+void Figure(lp::Session& session) {
+  session.ShapeNames.assign(1, u"");
+  word::Shapes& shapes = session.WordApp->ActiveDocument().Shapes();
+  auto axis = shapes.AddLine(180, 200, 320, 200);
+  axis->Line().SetEndArrowheadStyle(word::msoArrowheadTriangle);
+  axis->Line().SetWeight(0.75f);
+  Name(session, *axis, u"轴");
+  auto curve = shapes.AddCurve({{180, 200}, {200, 150}, {240, 150}, {260, 200}});
+  curve->Line().ForeColor().SetRGB(word::RGB(255, 0, 0));
+  Name(session, *curve, u"曲线");
+  auto label = shapes.AddTextbox(word::msoTextOrientationHorizontal, 300, 205, 24, 18);
+  label->TextFrame().TextRange()->SetText(u"x");
+  label->Line().SetVisible(false);
+  label->Fill().SetVisible(false);
+  Name(session, *label, u"标签");
+  lp::CloseFigure(session, u"图形");
 }
 
 void Factoring(lp::Session& session) {
@@ -65,6 +91,7 @@ void Mhgs(lp::Session& session) {
 const std::vector<Script>& Scripts() {
   static const std::vector<Script> scripts = {
       {"Document_Init", {u"", u"", u""}, &DocumentInit, ""},
+      {"a figure closed at the caret", {u"如图：", u"", u""}, &Figure, "如图："},
       {"factoring 360", {u"", u"", u""}, &Factoring, " 360=  2[sup: 3]· 3[sup: 2]· 5"},
       {"factoring a prime", {u"题：", u"", u""}, &FactoringPrime, "题： 7=  7[sup: 1]"},
       {"gs", {u"解：", u"x^2+1", u"。"}, &Gs, "解：{ EQ x[size=7:\\S(2)]＋1 }。"},

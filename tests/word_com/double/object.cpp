@@ -119,7 +119,7 @@ std::vector<word::PointF> PointArray(const VARIANT& in) {
   for (LONG i = low[0]; i <= high[0]; ++i) {
     float xy[2];
     for (LONG j = 0; j < 2; ++j) {
-      LONG index[2] = {low[1] + j, i};  // the rightmost dimension comes first
+      LONG index[2] = {i, low[1] + j};  // in the order of the dimensions
       if (FAILED(SafeArrayGetElement(in.parray, index, &xy[j]))) throw BadArgument{DISP_E_BADINDEX};
     }
     points.push_back({xy[0], xy[1]});
