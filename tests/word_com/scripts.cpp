@@ -4,7 +4,11 @@
 #include "runtime/recording_prompt.h"
 #include "session/document_init.h"
 #include "session/figure.h"
+#include "solvers/a_c.h"
+#include "solvers/equation.h"
 #include "solvers/factoring.h"
+#include "solvers/inequality.h"
+#include "toolkit/solve.h"
 
 namespace comtest {
 
@@ -68,6 +72,29 @@ void FactoringPrime(lp::Session& session) {
   lp::InsertFactorisation(f, session.WordApp->Selection());
 }
 
+void LinearEquation(lp::Session& session) {
+  lp::TypeLinearSolution(session.WordApp->Selection(), u"2x+1=7", lp::SolveLinear(u"2x+1=7"), true);
+}
+
+void QuadraticEquation(lp::Session& session) {
+  auto q = lp::SolveQuadratic(u"x^2-3x+2=0", session.prompt);
+  if (q) lp::TypeQuadraticSolution(session, u"x^2-3x+2=0", *q, true);
+}
+
+void Inequality(lp::Session& session) {
+  auto s = lp::ParseInequality(u"3x+1>2x-1", session.prompt);
+  if (s) lp::TypeInequalitySolution(session, *s, {true, true, false});
+}
+
+void InequalityOnNumberLine(lp::Session& session) {
+  auto s = lp::ParseInequality(u"2x-4<=0", session.prompt);
+  if (s) lp::DrawSolutionOnNumberLine(session, *s);
+}
+
+void Permutation(lp::Session& session) {
+  lp::InsertAC(session, {u"2", u"5", false, true});
+}
+
 void Gs(lp::Session& session) {
   lp::RunGs(session, lp::DriverControl{});
 }
@@ -94,11 +121,35 @@ const std::vector<Script>& Scripts() {
       {"a figure closed at the caret", {u"如图：", u"", u""}, &Figure, "如图："},
       {"factoring 360", {u"", u"", u""}, &Factoring, " 360=  2[sup: 3]· 3[sup: 2]· 5"},
       {"factoring a prime", {u"题：", u"", u""}, &FactoringPrime, "题： 7=  7[sup: 1]"},
+      {"linear equation",
+       {u"", u"", u""},
+       &LinearEquation,
+       "2x+1=7¶解：¶移项、合并同类项可得：¶2x= 6¶∴ x=3"},
+      {"quadratic equation",
+       {u"", u"", u""},
+       &QuadraticEquation,
+       "x[sup:2]-3x+2=0¶解：¶x[sup:2]-3x+2=0¶∵ [font=Symbol:D]=(-3)[sup:2]-4·1·2= 1¶即： "
+       "(x-1)(x-2)=0¶ x[sub:1]= 1 x[sub:2]= 2"},
+      {"inequality with its set",
+       {u"", u"", u""},
+       &Inequality,
+       "3x+1>2x-1¶解：¶移项、合并同类项可得：¶x>-2¶ x>-2¶∴ 原不等式的解集为：¶ x∈ (-2，+∞)"},
+      {"inequality on a number line",
+       {u"", u"", u""},
+       &InequalityOnNumberLine,
+       "",
+       Fake::kFollows,
+       "ForeColor\\.RGB=[0-9]+"},
+      {"permutation",
+       {u"", u"", u""},
+       &Permutation,
+       "A{ eq \\o(\\s\\up 5(2),\\s\\do 3(5)) }=20",
+       Fake::kCannotFollow},
       {"gs", {u"解：", u"x^2+1", u"。"}, &Gs, "解：{ EQ x[size=7:\\S(2)]＋1 }。"},
       {"gs over a paragraph",
        {u"", u"y=2x\r", u"下一行"},
        &Gs,
-       "{ EQ y＝2x }\r下一行",
+       "{ EQ y＝2x }¶下一行",
        Fake::kCannotFollow},
       {"gs embellished",
        {u"", u"a/b", u""},

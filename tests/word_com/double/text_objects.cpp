@@ -205,12 +205,13 @@ std::vector<Member> SelectionMembers() {
           .Method(L"MoveRight", "|lll", [](SelectionObj& s, Args& a) { return Move(s, a, 1); })
           .Method(L"InsertSymbol", "l|sbl",
                   [](SelectionObj& s, Args& a) -> Value {
+                    // The symbol takes its font; typing goes on in the font before it.
                     State& st = s.state();
-                    Format format = NewTextFormat(s);
-                    if (Given(a[1])) format.name = AsText(a[1]);
-                    st.typing = format;
+                    Format before = NewTextFormat(s), symbol = before;
+                    if (Given(a[1])) symbol.name = AsText(a[1]);
+                    st.typing = symbol;
                     Type(s, Text(1, static_cast<char16_t>(AsLong(a[0]))));
-                    st.typing.reset();
+                    st.typing = before;
                     return {};
                   })
           .Read(L"Information", "l",
@@ -532,8 +533,17 @@ Value AddField(FieldsObj& fields, Args& a) {
   std::vector<Char> chars = Chars(u"\x13 " + AsText(a[2]) + u" \x15", FormatAt(story, s.start));
   for (Char& c : chars) c.field = id;
   story.fields.push_back(FieldState{id, AsLong(a[1]), false});
+  const bool overSelection =
+      st.selection->story == &story && st.selection->start == s.start && st.selection->end == s.end;
+  long start = s.start;
   st.Replace(story, s.start, s.end, chars);
   SortFields(story);
+  // Over the selection, an empty field takes the caret between the blanks of
+  // its code, so that typing writes the code; any other goes on behind it.
+  if (overSelection) {
+    long caret = AsText(a[2]).empty() ? start + 2 : start + static_cast<long>(chars.size());
+    SelectSpan(st, &story, caret, caret);
+  }
   return Make<FieldObj>(st, "Fields(" + Arg(IndexInStory(story, id)) + ")", story, id);
 }
 

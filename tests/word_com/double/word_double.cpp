@@ -41,6 +41,7 @@ std::string FormatName(const Format& f) {
 std::string Shown(char16_t c) {
   if (c == 0x13) return "{";
   if (c == 0x15) return "}";
+  if (c == u'\r') return "¶";
   return lp::ToUtf8(Text(1, c));
 }
 

@@ -25,8 +25,9 @@ class WordDouble {
   // The body reads before + selected + after, the selection holding selected.
   void SetScene(const Text& before, const Text& selected, const Text& after);
 
-  // The body as text, a field as {code}, characters not in the default format
-  // as [format:text], such as [sup:3] or [i,font=Symbol:p].
+  // The body as text, a paragraph mark as ¶, a field as {code}, characters
+  // not in the default format as [format:text], such as [sup:3] or
+  // [i,font=Symbol:p].
   std::string Dump() const;
   const std::vector<std::string>& Calls() const { return state_.calls; }
   const std::deque<bool>& FindAnswers() const { return state_.findAnswers; }
