@@ -3,6 +3,8 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QPainter>
+#include <QPixmap>
 #include <QVBoxLayout>
 
 #include "figures/draw_list.h"
@@ -24,6 +26,31 @@ QString Q(const char16_t* text) {
 
 std::u16string U(const QLineEdit* edit) {
   return edit->text().toStdU16String();
+}
+
+// A small picture of a style: bars, and either short value lines (style 2)
+// or long ones under an open frame (style 1).
+QLabel* StyleSample(QWidget* parent, int style) {
+  QPixmap picture(64, 44);
+  picture.fill(Qt::white);
+  QPainter p(&picture);
+  p.drawLine(6, 40, 60, 40);
+  p.drawLine(6, 40, 6, 2);
+  const int heights[] = {14, 26, 20};
+  for (int i = 0; i < 3; ++i) p.drawRect(12 + 14 * i, 40 - heights[i], 14, heights[i]);
+  p.setPen(Qt::DashLine);
+  for (int i = 0; i < 3; ++i) {
+    int right = style == 1 ? 56 : 12 + 14 * i;
+    p.drawLine(6, 40 - heights[i], right, 40 - heights[i]);
+  }
+  if (style == 1) {
+    p.setPen(Qt::SolidLine);
+    p.drawPolyline(QPolygon({QPoint(6, 8), QPoint(56, 8), QPoint(56, 40)}));
+  }
+  p.end();
+  QLabel* label = ui::NamedLabel(parent, QStringLiteral("imgStyle_%1").arg(style), {});
+  label->setPixmap(picture);
+  return label;
 }
 
 QGroupBox* Box(QWidget* parent, const QString& title, QLayout* layout) {
@@ -154,7 +181,9 @@ QWidget* frmZFT::MakeStyleBox() {
   optColor[1] = ui::NamedOption(this, QStringLiteral("optColor_1"), QStringLiteral("阴影"));
   auto* styles = new QHBoxLayout;
   styles->addWidget(optStyle[0]);
+  styles->addWidget(StyleSample(this, 0));
   styles->addWidget(optStyle[1]);
+  styles->addWidget(StyleSample(this, 1));
   auto* colours = new QHBoxLayout;
   colours->addWidget(chkColor);
   colours->addWidget(optColor[0]);

@@ -1,28 +1,9 @@
 #include "figures/draw_list.h"
 
-#include <chrono>
-#include <ctime>
-#include <random>
-
-#include "runtime/convert.h"
-#include "runtime/text.h"
 #include "session/figure.h"
 
 namespace lp::figures {
 namespace {
-
-std::u16string DateTimeDigits() {
-  std::time_t now = std::time(nullptr);
-  std::tm local{};
-#ifdef _WIN32
-  localtime_s(&local, &now);
-#else
-  localtime_r(&now, &local);
-#endif
-  char text[24];
-  std::strftime(text, sizeof text, "%Y%m%d%H%M%S", &local);
-  return std::u16string(text, text + std::char_traits<char>::length(text));
-}
 
 std::u16string ShapeName(Session& s, const FigureShape& shape) {
   ++s.ShapeCounter;
@@ -146,13 +127,6 @@ class ScreenUpdatingOff {
 };
 
 }  // namespace
-
-std::u16string strGetShapeName(const std::u16string& prefix) {
-  auto ticks = std::chrono::high_resolution_clock::now().time_since_epoch().count();
-  std::mt19937 generator(static_cast<unsigned>(ticks));
-  double r = std::uniform_real_distribution<double>(0.0, 1.0)(generator);
-  return prefix + u"：" + DateTimeDigits() + Trim(Str(Int(999 * r + 1))) + u"_lumenpad";
-}
 
 void DrawShapeList(Session& s, const ShapeList& shapes) {
   word::Shapes& target = s.WordApp->ActiveDocument().Shapes();

@@ -11,10 +11,6 @@
 
 namespace lp::figures {
 
-// A name unique in practice: prefix, "：", the digits of the date and time,
-// a random 1 to 999, "_lumenpad". Not recorded anywhere.
-std::u16string strGetShapeName(const std::u16string& prefix);
-
 // Adds each shape, raising ShapeCounter and recording its name in ShapeNames.
 void DrawShapeList(Session& session, const ShapeList& shapes);
 

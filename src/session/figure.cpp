@@ -28,9 +28,9 @@ std::u16string NowText() {
   return std::u16string(text, text + std::char_traits<char>::length(text));
 }
 
-std::u16string TimeDigits() {
+std::u16string Digits(const std::u16string& text) {
   std::u16string digits;
-  for (char16_t c : Mid(NowText(), 3)) {
+  for (char16_t c : text) {
     if (c >= u'0' && c <= u'9') digits += c;
   }
   return digits;
@@ -60,13 +60,18 @@ void GetCaretAnchor(Session& s) {
 }
 
 std::u16string MakeShapeName(Session& s, const std::u16string& base) {
-  std::u16string name =
-      base + u"：" + Trim(Str(static_cast<double>(RandomNumber()))) + TimeDigits() + u"_lumenpad";
+  std::u16string name = base + u"：" + Trim(Str(static_cast<double>(RandomNumber()))) +
+                        Digits(Mid(NowText(), 3)) + u"_lumenpad";
   if (name.size() > 32) name.resize(32);
   if (s.ShapeCounter < 1) throw RuntimeError(kSubscriptOutOfRange, "Subscript out of range");
   s.ShapeNames.resize(static_cast<size_t>(s.ShapeCounter));
   s.ShapeNames[s.ShapeCounter - 1] = name;
   return name;
+}
+
+std::u16string strGetShapeName(const std::u16string& prefix) {
+  return prefix + u"：" + Digits(NowText()) + Trim(Str(static_cast<double>(RandomNumber()))) +
+         u"_lumenpad";
 }
 
 void CloseFigure(Session& s, const std::u16string& kindBase) {

@@ -16,6 +16,11 @@ void GetCaretAnchor(Session& session);
 // caller has raised by one; a ShapeCounter below 1 raises error 9.
 std::u16string MakeShapeName(Session& session, const std::u16string& base);
 
+// The column arithmetic's own unique name: prefix, "：", the digits of the
+// date and time, a random 1 to 999, "_lumenpad", kept whole and recorded
+// nowhere.
+std::u16string strGetShapeName(const std::u16string& prefix);
+
 // Groups the shapes named in ShapeNames, selects the group, names it after
 // kindBase (such as "区间"), sends it behind, then in front of the text, and
 // moves it to the caret anchor. ShapeCounter and ShapeNames stay as they are.

@@ -34,7 +34,7 @@ void DrawColumnSum(Session& s, const ColumnSum& sum) {
   figures::DrawShapeList(s, ColumnSumShapes(LayOutColumnSum(sum)));
   std::unique_ptr<word::Shape> group =
       s.WordApp->ActiveDocument().Shapes().Range(s.ShapeNames)->Group();
-  group->SetName(figures::strGetShapeName(u"竖式"));
+  group->SetName(strGetShapeName(u"竖式"));
   group->SetRelativeHorizontalPosition(word::wdRelativeHorizontalPositionPage);
   group->SetRelativeVerticalPosition(word::wdRelativeVerticalPositionPage);
   group->SetLeft(s.AnchorX);

@@ -62,6 +62,16 @@ TEST_F(FigureTest, ShapeNamesJoinBaseNumberTimeAndSuffix) {
   EXPECT_THROW(lp::MakeShapeName(session_, u"x"), lp::RuntimeError);
 }
 
+TEST_F(FigureTest, ColumnArithmeticNamesKeepDateTimeAndNumberWhole) {
+  std::u16string name = lp::strGetShapeName(u"竖式横线");
+  ASSERT_EQ(name.substr(0, 5), u"竖式横线：");
+  EXPECT_EQ(name.substr(name.size() - 9), u"_lumenpad");
+  std::u16string digits = name.substr(5, name.size() - 5 - 9);
+  EXPECT_EQ(digits.find_first_not_of(u"0123456789"), std::u16string::npos);
+  EXPECT_GE(digits.size(), 4u + 1 + 1 + 1 + 2 + 2 + 1);  // year, date, time, number
+  EXPECT_TRUE(session_.ShapeNames.empty());
+}
+
 TEST_F(FigureTest, ClosingAFigureGroupsNamesAndPlacesIt) {
   word_.AddScriptedShape(u"a", word::msoLine, 180, 180, 50, 0);
   word_.AddScriptedShape(u"b", word::msoTextBox, 200, 170, 20, 20);
