@@ -113,6 +113,15 @@ histogram_state)
 assert len(starting("条形图") ) == 9 and named("样本文字标注")[0][7] == "年级", rows
 '
   ;;
+histogram_refused)
+  seed t.docx "直方图：【图】"
+  out="$(run zft --doc t.docx --set chkYKd=1 --set txtYkd_0=0 --click cmdOK_0 --click cmdOK_1 2>&1)"
+  [[ "$out" == *"您指定的y轴刻度数据有误，请检查！"* ]] || fail "no message: $out"
+  # Equal values leave no step for the y axis: the error ends the run.
+  out="$(run zft --doc t.docx --set txtData=5,5 --click cmdOK_0 2>&1)"
+  [[ "$out" == *"运行时错误 '11'"* ]] || fail "no error box: $out"
+  [[ -z "$(shapes t.docx)" ]] || fail "shapes were drawn: $(shapes t.docx)"
+  ;;
 pie)
   seed t.docx "扇形图：【图】"
   run sxt --doc t.docx --select "【图】" --set txtData=10,35:25：30 --set chkColor=1 --click cmdOK_0 --click cmdOK_1
