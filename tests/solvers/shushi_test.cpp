@@ -38,6 +38,15 @@ TEST_F(ShuShiTest, SelectedSumBecomesOneGroupAtTheCaret) {
             word_.Calls().end());
 }
 
+TEST_F(ShuShiTest, ASelectedTextBoxGivesItsText) {
+  word_.AddScriptedShape(u"box", word::msoTextBox, 100, 100, 80, 20);
+  word_.ActiveDocument().Shapes().Item(u"box")->TextFrame().TextRange()->SetText(u"12×3");
+  word_.SelectShapes({u"box"});
+  ShuShi(session_);
+  EXPECT_TRUE(prompt_.Shown().empty());
+  EXPECT_EQ(CountOf("Shapes.AddShape(1,"), 9);  // 12, x 3 and 36 in three columns
+}
+
 TEST_F(ShuShiTest, AsksUntilTheTextHoldsAnOperatorAndRefusesBadSums) {
   word_.Set("Selection.Type", 1);
   prompt_.Answer(u"");
