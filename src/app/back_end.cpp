@@ -7,6 +7,7 @@
 
 #ifdef _WIN32
 #include "word/com/com_word.h"
+#include "word/errors.h"
 #endif
 
 namespace lp {
@@ -17,9 +18,7 @@ class NoWord : public BackEnd, public WordConnector {
  public:
   WordConnector& Connector() override { return *this; }
   void SaveIfChanged() override {}
-  word::Application& GetObject() override {
-    throw word::ComError(429, "ActiveX component can't create object");
-  }
+  word::Application& GetObject() override { throw word::CannotCreateObject(); }
   word::Application& CreateObject() override { return GetObject(); }
 };
 

@@ -32,8 +32,8 @@ ErrInfo ErrOf(const std::exception& error);
 // The shared complaint about bad input; a non-empty label is the body of the box.
 void ShowInputError(Prompt& prompt, const std::u16string& label);
 
-// How many times n divides by 10. Zero never stops dividing: the count
-// overflows as the original's 16-bit counter did (error 6).
+// How many times n divides by 10. Zero never stops dividing: the count is a
+// 16-bit counter, so error 6 (overflow) past 32767.
 int16_t TrailingZeros(int32_t n);
 
 enum class RegistryRoot { kClassesRoot, kCurrentUser, kLocalMachine };

@@ -24,7 +24,7 @@ std::u16string FormulaToEq(const std::u16string& text, const FormulaSettings& se
 // letters are kept in order for the font pass.
 struct MaskedGreek {
   std::u16string text;
-  std::vector<std::u16string> GreekChars;  // element k of the original is GreekChars[k - 1]
+  std::vector<std::u16string> GreekChars;  // letter number k is GreekChars[k - 1]
   bool GreekUsed = false;
 };
 MaskedGreek MaskGreek(const std::u16string& text);

@@ -24,8 +24,8 @@ bool IsAsciiDigit(char16_t c) {
   return c >= u'0' && c <= u'9';
 }
 
-// "&H1F", "&O17" or "&17": a 16-bit value when it fits in 16 bits, as the
-// original typed such literals, else 32-bit; beyond that, overflow.
+// "&H1F", "&O17" or "&17": a 16-bit value when it fits in 16 bits, so that
+// "&HFFFF" is -1, else 32-bit; beyond that, overflow.
 double RadixValue(const std::u16string& s, size_t i) {
   int base = 8;
   if (i < s.size() && (s[i] == u'H' || s[i] == u'h')) {

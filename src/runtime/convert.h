@@ -1,7 +1,7 @@
 #pragma once
-// Number conversions with the original runtime's exact behaviour: the text
-// forms the tools write into documents and the overflow checks their
-// handlers rely on.
+// Number conversions with exact text forms and overflow rules: the text the
+// tools write into documents (Str gives a positive number a leading blank)
+// and the overflow checks their handlers rely on.
 
 #include <cstdint>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
-// A double as decimal digits, the way the original runtime saw numbers before
-// writing them as text: rounded to a number of significant digits first.
+// A double as decimal digits, the way numbers are seen before they are
+// written as text: rounded to a number of significant digits first.
 
 #include <optional>
 #include <string>

@@ -1,6 +1,7 @@
 #pragma once
-// Errors of the original runtime, with its numbers, so that error boxes and
-// handlers read the same Err.Number and Err.Description the tools expect.
+// Runtime errors with their fixed numbers (6 overflow, 9 subscript, 13 type
+// mismatch, ...), so that error boxes and handlers read the Err.Number and
+// Err.Description the tools expect.
 
 #include <stdexcept>
 #include <string>

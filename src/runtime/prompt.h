@@ -7,7 +7,7 @@
 
 namespace lp {
 
-// Buttons and icons add up as in the original message box.
+// Buttons and icons add up to one style value, as the message box takes it.
 enum MsgBoxStyle {
   vbOKOnly = 0,
   vbOKCancel = 1,

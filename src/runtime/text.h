@@ -1,7 +1,7 @@
 #pragma once
-// The string functions of the original runtime on UTF-16 text. Positions are
-// 1-based UTF-16 units; bad arguments raise "Invalid procedure call" (5) as
-// the original did.
+// The string functions of the runtime on UTF-16 text. Positions are 1-based
+// UTF-16 units; bad arguments raise "Invalid procedure call" (5), which some
+// tools rely on to stop a loop.
 
 #include <cstdint>
 #include <string>

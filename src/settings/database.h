@@ -18,7 +18,7 @@ namespace lp {
 // A field's value: Null, integer, real, text or bytes.
 using DbValue = std::variant<std::monostate, int64_t, double, std::u16string, std::vector<uint8_t>>;
 
-// The value as the original runtime converts it; Null raises "Invalid use of
+// The value converted as the runtime converts it; Null raises "Invalid use of
 // Null" (94), text that is no number raises a type mismatch.
 int16_t CBoolValue(const DbValue& v);  // True is -1
 int16_t CIntValue(const DbValue& v);

@@ -21,12 +21,6 @@ bool IsEven(int16_t n) {
 bool IsOdd(int16_t n) {
   return IsWhole(n) && !IsWhole(n / 2.0);
 }
-double MaxOf(double a, double b) {
-  return a > b ? a : b;
-}
-double MinOf(double a, double b) {
-  return a < b ? a : b;
-}
 
 int32_t Gcd(int32_t a, int32_t b) {
   if (a == b) return a;

@@ -1,7 +1,7 @@
 #pragma once
 // Whole-number arithmetic behind the answer texts. Arguments and results keep
-// the 16- and 32-bit types of the original routines: a value beyond them
-// raises Overflow (6), a division by zero error 11, as the runtime did.
+// 16- and 32-bit types: a value beyond them raises Overflow (6), a division
+// by zero error 11, and the solvers' messages depend on where that happens.
 
 #include <cstdint>
 #include <optional>
@@ -16,8 +16,6 @@ namespace lp {
 bool IsWhole(double x);
 bool IsEven(int16_t n);
 bool IsOdd(int16_t n);
-double MaxOf(double a, double b);
-double MinOf(double a, double b);
 
 // Greatest common divisor by subtraction: equal arguments give themselves,
 // sign included; a zero gives 1.

@@ -2,12 +2,13 @@
 #include <memory>
 #include <vector>
 
+#include "word/errors.h"
 #include "word/range.h"
 
 namespace word {
 
 [[noreturn]] inline void NotSupported() {
-  throw ComError(438, "Object doesn't support this property or method");
+  throw UnsupportedMember();
 }
 
 class ColorFormat {

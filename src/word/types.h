@@ -21,6 +21,9 @@ class ComError : public std::runtime_error {
   long number_;
 };
 
+// The colour Word calls automatic (black on a light page).
+constexpr long wdColorAutomatic = -16777216;
+
 // Tri-state values of Font and Find properties.
 constexpr long wdTrue = -1;
 constexpr long wdFalse = 0;

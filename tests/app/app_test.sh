@@ -142,6 +142,17 @@ gs_timeout)
   [[ $status == 3 ]] || fail "status $status for a formula that never ends"
   [[ "$out" == *"公式转换超时，文档没有改动。"* ]] || fail "no message: $out"
   cmp -s t.docx before.docx || fail "the document changed"
+  # The same formula typed into the dialog ends the same way.
+  seed d.docx "弧长"
+  run test --doc d.docx
+  cp d.docx before.docx
+  set +e
+  out="$(timeout 30 "$lp" gs --doc d.docx --set "txtGS=hu(AB)" --click cmdOK --config "$db" 2>&1)"
+  status=$?
+  set -e
+  [[ $status == 3 ]] || fail "status $status for a formula from the dialog that never ends"
+  [[ "$out" == *"公式转换超时，文档没有改动。"* ]] || fail "no message from the dialog: $out"
+  cmp -s d.docx before.docx || fail "the dialog changed the document"
   ;;
 mhgs)
   seed t.docx "已知 x+y=1 求解"

@@ -1,7 +1,7 @@
 #!/bin/sh
 # Validates a worksheet the engine builds from nothing (document, styles and
 # settings), then round-trips every seventh file of the round-trip set and
-# validates the result's word/document.xml wherever the original validates.
+# validates the result's word/document.xml wherever the untouched file validates.
 tool=$1
 corpus=$2
 tmp=$(mktemp -d)

@@ -3,7 +3,7 @@
 #include "errorlog/error_log.h"
 #include "runtime/error.h"
 #include "runtime/recording_prompt.h"
-#include "word/types.h"
+#include "word/errors.h"
 
 namespace {
 
@@ -11,7 +11,7 @@ TEST(ErrorLog, ReportErrorShowsDescriptionLabelAndNumber) {
   lp::RecordingPrompt prompt;
   lp::ReportError(prompt, lp::ErrorLabel(u"submain", 20), 13, u"类型不匹配");
   lp::ReportError(prompt, u"", 0, u"");
-  lp::ReportError(prompt, lp::ErrorLabel(u"Join_LR"), word::ComError(5941, "missing"));
+  lp::ReportError(prompt, lp::ErrorLabel(u"Join_LR"), word::ItemNotFound());
   lp::ReportError(prompt, u"x", lp::RuntimeError(6, "Overflow"));
   lp::ReportError(prompt, u"x", std::logic_error("bug"));
 
@@ -22,7 +22,7 @@ TEST(ErrorLog, ReportErrorShowsDescriptionLabelAndNumber) {
   EXPECT_EQ(shown[0].style, 0);
   EXPECT_EQ(shown[1].prompt, u"\r\n");
   EXPECT_EQ(shown[1].title, u"错误号: 0");
-  EXPECT_EQ(shown[2].prompt, u"missing\r\nJoin_LR-->line 0");
+  EXPECT_EQ(shown[2].prompt, u"集合中所需的成员不存在。\r\nJoin_LR-->line 0");
   EXPECT_EQ(shown[2].title, u"错误号: 5941");
   EXPECT_EQ(shown[3].title, u"错误号: 6");
   EXPECT_EQ(shown[4].prompt, u"Internal error\r\nx");

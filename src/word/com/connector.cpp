@@ -1,5 +1,6 @@
 #include "word/com/application.h"
 #include "word/com/com_word.h"
+#include "word/errors.h"
 
 namespace word::com {
 
@@ -48,7 +49,7 @@ class ComConnector : public lp::WordConnector {
     if (FAILED(CLSIDFromProgID(L"Word.Application", &id)) ||
         FAILED(CoCreateInstance(id, nullptr, CLSCTX_LOCAL_SERVER, IID_IDispatch,
                                 reinterpret_cast<void**>(&word)))) {
-      throw ComError(429, "ActiveX 部件不能创建对象");
+      throw CannotCreateObject();
     }
     return Keep(Dispatch(word, false));
   }

@@ -1,4 +1,5 @@
 #include "word/com/dispatch.h"
+#include "word/errors.h"
 
 #include <string>
 
@@ -103,7 +104,7 @@ VARIANT Variant::Converted(VARTYPE type) const {
   VARIANT out;
   VariantInit(&out);
   HRESULT hr = VariantChangeType(&out, const_cast<VARIANT*>(&v_), 0, type);
-  if (FAILED(hr)) throw ComError(13, "Type mismatch");
+  if (FAILED(hr)) throw TypeMismatch();
   return out;
 }
 
@@ -140,7 +141,7 @@ Dispatch::~Dispatch() {
 
 Variant Dispatch::Invoke(const wchar_t* name, WORD flags, std::vector<Variant> args,
                          bool propertyPut) const {
-  if (!p_) throw ComError(91, "Object variable or With block variable not set");
+  if (!p_) throw ObjectNotSet();
   DISPID id = 0;
   LPOLESTR names[] = {const_cast<LPOLESTR>(name)};
   Check(p_->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id), Narrow(name).c_str());
@@ -195,7 +196,7 @@ Variant Dispatch::Call(const wchar_t* name, std::initializer_list<Variant> args)
 Dispatch ToDispatch(const Variant& value) {
   const VARIANT* v = value.get();
   if (v->vt == VT_DISPATCH && v->pdispVal) return Dispatch(v->pdispVal);
-  throw ComError(424, "Object required");
+  throw ObjectRequired();
 }
 
 }  // namespace word::com

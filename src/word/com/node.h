@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "word/com/dispatch.h"
+#include "word/errors.h"
 
 namespace word::com {
 
@@ -49,7 +50,7 @@ class ComNode {
 template <class T>
 Dispatch DispatchOf(T& object) {
   auto* node = dynamic_cast<const ComNode*>(&object);
-  if (!node) throw ComError(13, "Type mismatch");
+  if (!node) throw TypeMismatch();
   return node->Object();
 }
 

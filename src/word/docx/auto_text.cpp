@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "word/docx/range_impl.h"
+#include "word/errors.h"
 
 namespace word::docx {
 namespace {
@@ -15,7 +16,7 @@ struct Piece {
 
 const Place& PlaceOf(word::Range& range) {
   auto* holder = dynamic_cast<const PlaceHolder*>(&range);
-  if (!holder) throw ComError(5852, "请求的对象不可用。");
+  if (!holder) throw ObjectNotAvailable();
   return holder->GetPlace();
 }
 
@@ -85,7 +86,7 @@ class Entries : public word::AutoTextEntries {
     entries_[name] = Capture(PlaceOf(range));
   }
   std::unique_ptr<word::AutoTextEntry> Item(const Text& name) override {
-    if (!entries_.count(name)) throw ComError(5941, "集合中所需的成员不存在。");
+    if (!entries_.count(name)) throw ItemNotFound();
     return std::make_unique<Entry>(entries_, name);
   }
 

@@ -5,6 +5,8 @@
 #include <cstring>
 
 #include "runtime/utf8.h"
+#include "word/docx/host/units.h"
+#include "word/types.h"
 
 namespace word::docx {
 namespace {
@@ -93,20 +95,13 @@ void SetFont(pugi::xml_node rPr, const char* const* attrs, const char* const* th
 }
 
 std::string ColorHex(long bgr) {
-  if (bgr == -16777216) return "auto";
-  char buf[8];
-  std::snprintf(buf, sizeof buf, "%02X%02X%02X", static_cast<unsigned>(bgr & 0xFF),
-                static_cast<unsigned>((bgr >> 8) & 0xFF),
-                static_cast<unsigned>((bgr >> 16) & 0xFF));
-  return buf;
+  return bgr == wdColorAutomatic ? "auto" : HexOfColor(bgr);
 }
 
 std::optional<long> ParseColor(pugi::xml_node n) {
   if (!n) return std::nullopt;
-  std::string v = n.attribute("w:val").value();
-  if (v.size() != 6) return -16777216;
-  long rgb = std::strtol(v.c_str(), nullptr, 16);
-  return ((rgb >> 16) & 0xFF) | (rgb & 0xFF00) | ((rgb & 0xFF) << 16);
+  const std::string v = n.attribute("w:val").value();
+  return v.size() == 6 ? ColorOfHex(v) : wdColorAutomatic;
 }
 
 }  // namespace

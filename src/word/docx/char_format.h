@@ -18,7 +18,7 @@ struct CharFormat {
   std::optional<bool> bold, italic;
   std::optional<VertAlign> vertAlign;
   std::optional<int> scaling;  // w:w, percent
-  std::optional<long> color;   // BGR as Word's RGB(); -16777216 is automatic
+  std::optional<long> color;   // BGR as Word's RGB(); wdColorAutomatic is automatic
 
   bool Empty() const;
   // Fields set in `over` replace ours.

@@ -7,11 +7,10 @@
 #include "word/docx/docx_document.h"
 #include "word/docx/new_document.h"
 #include "word/docx/selection.h"
+#include "word/errors.h"
 
 namespace word::docx {
 namespace {
-
-const long kMacroNotFound = -2147352573;  // DISP_E_MEMBERNOTFOUND, as Word raises it
 
 class OneDocument : public word::Documents {
  public:
@@ -20,7 +19,7 @@ class OneDocument : public word::Documents {
   word::Document& Open(const Text&) override { return Refuse(); }
 
  private:
-  word::Document& Refuse() { throw ComError(4198, "命令失败：此处只能编辑一个文档。"); }
+  word::Document& Refuse() { throw OnlyOneDocument(); }
 };
 
 class NoAddIns : public word::AddIns {
@@ -124,7 +123,7 @@ void DocxApplication::Run(const Text& macroName) {
     TexToggle();
     return;
   }
-  throw ComError(kMacroNotFound, "无法运行指定的宏。");
+  throw MacroNotFound();
 }
 
 // Each $...$ of the selection becomes the equation the converter makes of it,

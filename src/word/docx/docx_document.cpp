@@ -8,6 +8,7 @@
 #include "word/docx/relationships.h"
 #include "word/docx/selection.h"
 #include "word/docx/xml_part.h"
+#include "word/errors.h"
 
 namespace word::docx {
 namespace {
@@ -48,7 +49,7 @@ class DocxBookmarks : public word::Bookmarks {
       return std::make_unique<DocxRange>(doc_.MakePlace(story, start, end));
     }
     const BookmarkSpan* b = Find(lp::ToUtf8(name));
-    if (!b) throw ComError(5941, "集合中所需的成员不存在。");
+    if (!b) throw ItemNotFound();
     return std::make_unique<DocxRange>(doc_.MakePlace(story, b->start, b->end));
   }
 
@@ -272,13 +273,13 @@ pugi::xml_node DocxDocument::CoreProperties() const {
 
 Text DocxDocument::BuiltInDocumentProperty(const Text& name) const {
   const char* element = CoreElement(name);
-  if (!element) throw ComError(5, "无效的过程调用或参数");
+  if (!element) throw InvalidArgument();
   return lp::FromUtf8(CoreProperties().child(element).text().get());
 }
 
 void DocxDocument::SetBuiltInDocumentProperty(const Text& name, const Text& value) {
   const char* element = CoreElement(name);
-  if (!element) throw ComError(5, "无效的过程调用或参数");
+  if (!element) throw InvalidArgument();
   pugi::xml_node root = CoreProperties();
   if (!root) return;  // a package without core properties keeps none
   pugi::xml_node e = root.child(element);

@@ -1,11 +1,11 @@
 #include "word/docx/inline_shapes.h"
+#include "word/docx/host/units.h"
+#include "word/errors.h"
 
 #include <vector>
 
 namespace word::docx {
 namespace {
-
-constexpr double kEmuPerPoint = 12700.0;
 
 class InlinePicture : public word::InlineShape {
  public:
@@ -17,10 +17,10 @@ class InlinePicture : public word::InlineShape {
 
  private:
   float Extent(const char* axis) const {
-    return static_cast<float>(node_.child("wp:extent").attribute(axis).as_double() / kEmuPerPoint);
+    return ToPoints(node_.child("wp:extent").attribute(axis).as_llong());
   }
   void SetExtent(const char* axis, float points) {
-    std::string emu = std::to_string(static_cast<long long>(points * kEmuPerPoint + 0.5));
+    const std::string emu = std::to_string(ToEmu(points));
     node_.child("wp:extent").attribute(axis).set_value(emu.c_str());
     // The picture's own transform carries the same size.
     pugi::xpath_node ext = node_.select_node(".//a:xfrm/a:ext");
@@ -37,7 +37,7 @@ class InlinePictures : public word::InlineShapes {
       : nodes_(std::move(nodes)), doc_(doc) {}
   long Count() const override { return static_cast<long>(nodes_.size()); }
   std::unique_ptr<word::InlineShape> Item(long index) override {
-    if (index < 1 || index > Count()) throw ComError(5941, "集合中所需的成员不存在。");
+    if (index < 1 || index > Count()) throw ItemNotFound();
     return std::make_unique<InlinePicture>(nodes_[static_cast<size_t>(index - 1)], doc_);
   }
 

@@ -1,5 +1,7 @@
 #include "word/docx/layout_estimate.h"
 
+#include "word/docx/host/units.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -9,7 +11,7 @@ namespace {
 
 float Twips(pugi::xml_node n, const char* attr, float fallback) {
   pugi::xml_attribute a = n.attribute(attr);
-  return a ? static_cast<float>(a.as_double()) / 20.0f : fallback;
+  return a ? static_cast<float>(a.as_double() / kTwipsPerPoint) : fallback;
 }
 
 // Width of UTF-8 text in ems: multi-byte characters are full width.

@@ -1,5 +1,5 @@
 #pragma once
-// The zip package of a .docx. Parts are read from the original bytes; a part
+// The zip package of a .docx. Parts are read from the bytes as opened; a part
 // that was written anew replaces its entry on save, and every other entry is
 // copied as it was, compressed bytes and all.
 

@@ -1,6 +1,7 @@
 #include <cctype>
 
 #include "word/docx/selection.h"
+#include "word/errors.h"
 
 namespace word::docx {
 namespace {
@@ -16,7 +17,7 @@ pugi::xml_node FieldCharRun(pugi::xml_document& proto, pugi::xml_node rPr, const
 FieldSpan SpanOf(Story& story, pugi::xml_node begin) {
   for (const FieldSpan& f : story.Index().fields)
     if (f.begin == begin) return f;
-  throw ComError(5852, "请求的对象不可用。");
+  throw ObjectNotAvailable();
 }
 
 }  // namespace
@@ -61,8 +62,7 @@ long RangeFields::Count() const {
 
 std::unique_ptr<word::Field> RangeFields::Item(long index) {
   auto fields = InRange();
-  if (index < 1 || index > static_cast<long>(fields.size()))
-    throw ComError(5941, "集合中所需的成员不存在。");
+  if (index < 1 || index > static_cast<long>(fields.size())) throw ItemNotFound();
   return std::make_unique<FieldImpl>(*place_.doc, *place_.story,
                                      fields[static_cast<size_t>(index - 1)].begin);
 }

@@ -1,6 +1,7 @@
 #include <cstring>
 
 #include "word/docx/range_impl.h"
+#include "word/errors.h"
 
 namespace word::docx {
 namespace {
@@ -75,8 +76,7 @@ long RangeCharacters::Count() const {
 
 std::unique_ptr<word::Range> RangeCharacters::Item(long index) {
   auto positions = Positions();
-  if (index < 1 || index > static_cast<long>(positions.size()))
-    throw ComError(5941, "集合中所需的成员不存在。");
+  if (index < 1 || index > static_cast<long>(positions.size())) throw ItemNotFound();
   long p = positions[static_cast<size_t>(index - 1)];
   return std::make_unique<DocxRange>(place_.doc->MakePlace(*place_.story, p, p + 1));
 }

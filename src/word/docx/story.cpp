@@ -4,6 +4,7 @@
 #include <cstring>
 #include <sstream>
 
+#include "word/errors.h"
 #include "word/types.h"
 
 namespace word::docx {
@@ -123,7 +124,7 @@ void Story::Drop() {
 }
 
 void Story::CheckLive() const {
-  if (dropped_) throw ComError(5825, "对象已被删除。");
+  if (dropped_) throw ObjectDeleted();
 }
 
 const StoryIndex& Story::Index() {
@@ -223,7 +224,7 @@ pugi::xml_node Story::InsertInline(long pos, const pugi::xml_node& prototype, lo
     placed = after.parent().insert_copy_after(prototype, after);
   } else {
     const Segment& s = ix.segments[ix.SegmentAt(pos)];
-    if (s.kind == SegKind::RowEnd) throw ComError(4605, "此命令无效。");
+    if (s.kind == SegKind::RowEnd) throw CommandNotValid();
     if (IsMark(s.kind)) {
       pugi::xml_node paragraph = s.node;
       placed = paragraph.append_copy(prototype);
@@ -345,7 +346,7 @@ void Story::InsertParagraph(long pos) {
   }
   pos = std::clamp(pos, 0L, std::max(0L, Index().length - 1));
   const Segment mark = Index().segments[Index().ParagraphOf(pos)];
-  if (mark.kind == SegKind::RowEnd) throw ComError(4605, "此命令无效。");
+  if (mark.kind == SegKind::RowEnd) throw CommandNotValid();
   pugi::xml_node p = mark.node;
   bool atStart = pos == 0 || IsMark(Index().segments[Index().SegmentAt(pos - 1)].kind);
   pugi::xml_node last = atStart ? pugi::xml_node() : LiftSplit(SplitAfter(pos - 1), p);

@@ -92,7 +92,6 @@ class Story : public std::enable_shared_from_this<Story> {
   void DeleteSegmentPart(const Segment& s, long from, long to);
   void DeleteSimpleField(const Segment& begin, long start, long end);
   bool MergeParagraphAt(const Segment& mark);
-  pugi::xml_node NewRunAt(long pos, pugi::xml_node rPr, bool code);
 
   pugi::xml_node container_;
   StoryOwner& owner_;

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "runtime/utf8.h"
+#include "word/types.h"
 
 namespace word::docx {
 namespace {
@@ -33,7 +34,7 @@ void StyleSheet::Load(pugi::xml_node styles, pugi::xml_node theme) {
   defaults_.bold = defaults_.italic = false;
   defaults_.vertAlign = VertAlign::Baseline;
   defaults_.scaling = 100;
-  defaults_.color = -16777216;
+  defaults_.color = wdColorAutomatic;
   defaults_.Overlay(Read(styles.child("w:docDefaults").child("w:rPrDefault").child("w:rPr")));
   defaultSpacing_ =
       styles.child("w:docDefaults").child("w:pPrDefault").child("w:pPr").child("w:spacing");

@@ -1,4 +1,5 @@
 #include "word/fake/fake_word.h"
+#include "word/errors.h"
 
 namespace word::fake {
 
@@ -57,13 +58,13 @@ void FakeWord::Restart() {
 }
 
 Application& FakeConnector::GetObject() {
-  if (!running) throw ComError(429, "ActiveX 部件不能创建对象");
+  if (!running) throw CannotCreateObject();
   return word_;
 }
 
 Application& FakeConnector::CreateObject() {
   word_.state.calls.push_back("CreateObject(\"Word.Application\")");
-  if (!canStart) throw ComError(429, "ActiveX 部件不能创建对象");
+  if (!canStart) throw CannotCreateObject();
   word_.Restart();
   running = true;
   return word_;

@@ -3,12 +3,13 @@
 #include <charconv>
 
 #include "runtime/utf8.h"
+#include "word/errors.h"
 
 namespace word::fake {
 
 DocumentState& State::ActiveDocument() {
   if (documents.empty()) {
-    throw ComError(4248, "该命令无效，因为没有打开的文档。");
+    throw NoDocumentOpen();
   }
   return *documents[active];
 }

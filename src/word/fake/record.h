@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "word/api.h"
+#include "word/errors.h"
 
 namespace word::fake {
 
@@ -72,7 +73,7 @@ struct State {
 
 // What Word raises for a collection member that isn't there.
 inline ComError NoSuchMember() {
-  return ComError(5941, "集合中所需的成员不存在。");
+  return ItemNotFound();
 }
 
 // Arguments as the records write them: numbers shortest, texts quoted.

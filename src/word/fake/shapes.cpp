@@ -1,4 +1,5 @@
 #include "word/fake/shapes.h"
+#include "word/errors.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,7 +9,7 @@ namespace word::fake {
 namespace {
 
 ComError NoSuchShape() {
-  return ComError(-2147024809, "未找到具有指定名称的项目。");
+  return ShapeArgument("未找到具有指定名称的项目。");
 }
 
 std::string NameList(const std::vector<Text>& names) {
@@ -38,7 +39,7 @@ ShapeImpl<Base>::ShapeImpl(State& state, std::string path, ShapeList targets)
 
 template <class Base>
 const ShapeState& ShapeImpl<Base>::First() const {
-  if (targets_.empty()) throw ComError(-2147024809, "指定集合的索引越界。");
+  if (targets_.empty()) throw ShapeArgument("指定集合的索引越界。");
   return *targets_.front();
 }
 

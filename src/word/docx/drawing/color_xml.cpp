@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "word/docx/drawing/units.h"
+#include "word/docx/host/units.h"
 
 namespace word::docx::drawing {
 

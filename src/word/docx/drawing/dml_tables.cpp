@@ -72,13 +72,6 @@ std::string_view ArrowheadName(MsoArrowheadStyle style) {
   return "none";
 }
 
-MsoArrowheadStyle ArrowheadStyleOfName(std::string_view name) {
-  for (const auto& [value, known] : kArrowheads) {
-    if (known == name) return value;
-  }
-  return msoArrowheadNone;
-}
-
 std::string_view ArrowheadSizeName(long size) {
   switch (size) {
     case 1:

@@ -17,7 +17,6 @@ MsoLineDashStyle DashStyleOfName(std::string_view name, bool roundCap);
 
 // a:headEnd / a:tailEnd type, w and len.
 std::string_view ArrowheadName(MsoArrowheadStyle style);
-MsoArrowheadStyle ArrowheadStyleOfName(std::string_view name);
 std::string_view ArrowheadSizeName(long size);  // 1 small, 2 medium, 3 large
 
 }  // namespace word::docx::drawing

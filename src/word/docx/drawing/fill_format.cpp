@@ -4,6 +4,7 @@
 #include "word/docx/drawing/dml_tables.h"
 #include "word/docx/drawing/formats.h"
 #include "word/docx/drawing/xml_order.h"
+#include "word/errors.h"
 
 namespace word::docx::drawing {
 
@@ -104,7 +105,7 @@ void DocxFillFormat::Solid() {
 
 void DocxFillFormat::Patterned(long pattern) {
   const std::string name(PatternName(pattern));
-  if (name.empty()) throw ComError(5, "Invalid procedure call or argument");
+  if (name.empty()) throw InvalidArgument();
   EditFills([&name](pugi::xml_node spPr, pugi::xml_node fill) {
     const bool shown = fill && !Is(fill, "a:noFill");
     const long fore = shown ? ReadColor(ForeHolder(fill)) : 0;

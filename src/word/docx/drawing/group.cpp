@@ -6,6 +6,7 @@
 #include "word/docx/drawing/shape_range.h"
 #include "word/docx/drawing/xml_order.h"
 #include "word/docx/drawing/z_order.h"
+#include "word/errors.h"
 
 namespace word::docx::drawing {
 
@@ -61,7 +62,7 @@ void CheckGroupable(const std::vector<pugi::xml_node>& anchors) {
   for (pugi::xml_node anchor : anchors) {
     const pugi::xml_node shape = GraphicOf(anchor);
     if (!Is(shape, "wps:wsp") && !Is(shape, "wpg:wgp")) {
-      throw ComError(-2147024809, "This kind of shape cannot be grouped.");
+      throw ShapeArgument("此类形状无法组合。");
     }
   }
 }

@@ -5,7 +5,8 @@
 
 #include "word/docx/drawing/markup.h"
 #include "word/docx/drawing/shape_range.h"
-#include "word/docx/drawing/units.h"
+#include "word/docx/host/units.h"
+#include "word/errors.h"
 
 namespace word::docx::drawing {
 
@@ -84,7 +85,7 @@ class DocxFreeformBuilder : public FreeformBuilder {
   }
 
   std::unique_ptr<Shape> ConvertToShape() override {
-    if (path_.segments.empty()) throw ComError(5, "Invalid procedure call or argument");
+    if (path_.segments.empty()) throw InvalidArgument();
     return AddPathShape(host_, path_, u"Freeform");
   }
 
@@ -97,7 +98,7 @@ class DocxFreeformBuilder : public FreeformBuilder {
 
 PointPath BezierPath(const std::vector<PointF>& points) {
   if (points.size() < 4 || points.size() % 3 != 1) {
-    throw ComError(5, "Invalid procedure call or argument");
+    throw InvalidArgument();
   }
   PointPath path{points.front(), {}};
   for (size_t i = 1; i + 2 < points.size(); i += 3) {

@@ -1,8 +1,9 @@
 #include "word/docx/drawing/shape_range.h"
 
 #include "word/docx/drawing/anchor.h"
-#include "word/docx/drawing/units.h"
 #include "word/docx/drawing/z_order.h"
+#include "word/docx/host/units.h"
+#include "word/errors.h"
 
 namespace word::docx::drawing {
 
@@ -117,14 +118,14 @@ long AnchorRange::Count() const {
 
 std::unique_ptr<Shape> AnchorRange::Item(long index) {
   if (index < 1 || index > Count()) {
-    throw ComError(-2147024809, "The index into the specified collection is out of bounds.");
+    throw ShapeArgument("指定集合的索引越界。");
   }
   return std::make_unique<AnchorRange>(
       shapes_.Host(), std::vector{shapes_.Anchors()[static_cast<size_t>(index - 1)]});
 }
 
 std::unique_ptr<Shape> AnchorRange::Group() {
-  if (Count() < 2) throw ComError(-2147024809, "Grouping needs at least two shapes.");
+  if (Count() < 2) throw ShapeArgument("组合至少需要两个形状。");
   const pugi::xml_node group = GroupAnchors(shapes_.Host(), shapes_.Anchors());
   return std::make_unique<AnchorRange>(shapes_.Host(), std::vector{group});
 }

@@ -1,6 +1,7 @@
 #include "word/docx/drawing/shape_set.h"
 
 #include "word/docx/drawing/anchor.h"
+#include "word/errors.h"
 
 namespace word::docx::drawing {
 
@@ -30,7 +31,7 @@ std::vector<pugi::xml_node> ShapeSet::Anchors() const {
 }
 
 pugi::xml_node ShapeSet::First() const {
-  if (handles_.empty()) throw ComError(-2147024809, "The shape no longer exists.");
+  if (handles_.empty()) throw ShapeArgument("该形状已不存在。");
   return LiveAnchor(handles_.front());
 }
 

@@ -6,7 +6,8 @@
 #include "word/docx/drawing/markup.h"
 #include "word/docx/drawing/path_shape.h"
 #include "word/docx/drawing/shape_range.h"
-#include "word/docx/drawing/units.h"
+#include "word/docx/host/units.h"
+#include "word/errors.h"
 
 namespace word::docx {
 
@@ -15,7 +16,7 @@ namespace {
 using namespace drawing;
 
 [[noreturn]] void NoSuchShape() {
-  throw ComError(-2147024809, "The item with the specified name wasn't found.");
+  throw ShapeArgument("未找到具有指定名称的项目。");
 }
 
 Frame FrameOfPoints(float left, float top, float width, float height) {
@@ -31,7 +32,7 @@ class DocxShapes : public word::Shapes {
   std::unique_ptr<Shape> Item(long index) override {
     const auto anchors = FindAnchors(host_.DocumentXml());
     if (index < 1 || index > static_cast<long>(anchors.size())) {
-      throw ComError(-2147024809, "The index into the specified collection is out of bounds.");
+      throw ShapeArgument("指定集合的索引越界。");
     }
     return One(anchors[static_cast<size_t>(index - 1)]);
   }
@@ -55,7 +56,7 @@ class DocxShapes : public word::Shapes {
     const Frame frame = FrameOfPoints(left, top, width, height);
     if (type == msoShapeRectangle) return Add(frame, PresetWsp("rect", frame), u"Rectangle");
     if (type == msoShapeOval) return Add(frame, PresetWsp("ellipse", frame), u"Oval");
-    throw ComError(5, "Invalid procedure call or argument");
+    throw InvalidArgument();
   }
 
   std::unique_ptr<Shape> AddTextbox(MsoTextOrientation, float left, float top, float width,

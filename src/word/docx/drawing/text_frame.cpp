@@ -1,8 +1,9 @@
 #include "word/docx/drawing/anchor.h"
 #include "word/docx/drawing/formats.h"
-#include "word/docx/drawing/units.h"
 #include "word/docx/drawing/xml_order.h"
 #include "word/docx/drawing/z_order.h"
+#include "word/docx/host/units.h"
+#include "word/errors.h"
 
 namespace word::docx::drawing {
 
@@ -16,7 +17,7 @@ const Order kBodyOrder = {"a:prstTxWarp", "a:noAutofit", "a:normAutofit", "a:spA
 pugi::xml_node TextStoryOf(pugi::xml_node anchor) {
   const MsoShapeType type = TypeOf(anchor);
   if (type != msoTextBox && type != msoAutoShape && type != msoFreeform) {
-    throw ComError(-2147024809, "This shape does not support attached text.");
+    throw ShapeArgument("此形状不支持附加文本。");
   }
   const pugi::xml_node wsp = GraphicOf(anchor);
   pugi::xml_node box = EnsureChild(wsp, "wps:txbx", kWspOrder);

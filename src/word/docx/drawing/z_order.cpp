@@ -5,6 +5,7 @@
 
 #include "word/docx/drawing/anchor.h"
 #include "word/docx/drawing/xml_order.h"
+#include "word/errors.h"
 
 namespace word::docx::drawing {
 
@@ -140,7 +141,7 @@ void SetWrapType(pugi::xml_node anchor, WdWrapType type) {
       name = "wp:wrapNone";
       break;
     default:
-      throw ComError(5843, "The wrap type cannot be set for this shape.");
+      throw WrapNotSettable();
   }
   SetAttr(anchor, "behindDoc", type == wdWrapBehind ? "1" : "0");
   pugi::xml_node wrap = ReplaceChoice(anchor, kWraps, name, kAnchorOrder);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "word/errors.h"
 #include "word/types.h"
 
 namespace word::docx {
@@ -44,7 +45,7 @@ std::vector<pugi::xml_node> LiveAnchors::Selected() const {
 }
 
 pugi::xml_node LiveAnchor(const LiveAnchors::Handle& handle) {
-  if (!*handle) throw ComError(5825, "对象已被删除。");
+  if (!*handle) throw ObjectDeleted();
   return *handle;
 }
 

@@ -1,9 +1,9 @@
-#include "word/docx/drawing/units.h"
+#include "word/docx/host/units.h"
 
 #include <cstdio>
 #include <cstdlib>
 
-namespace word::docx::drawing {
+namespace word::docx {
 
 std::string HexOfColor(long bgr) {
   char text[7];
@@ -21,4 +21,4 @@ long ColorOfHex(const std::string& hex) {
   return ((rgb >> 16) & 0xFF) | (rgb & 0xFF00) | ((rgb & 0xFF) << 16);
 }
 
-}  // namespace word::docx::drawing
+}  // namespace word::docx
