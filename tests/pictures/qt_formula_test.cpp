@@ -23,6 +23,9 @@ class FormulaPictures : public ::testing::Test {
       app_ = std::make_unique<QGuiApplication>(argc, argv);
     }
   }
+  // The application goes before the program's static objects do: Qt's font
+  // database outliving it crashes the process on exit.
+  static void TearDownTestSuite() { app_.reset(); }
   // Rows of the picture that hold ink.
   static int InkRows(const QImage& image) {
     int rows = 0;
