@@ -6,61 +6,11 @@
 
 #include "runtime/utf8.h"
 #include "word/docx/host/units.h"
+#include "word/docx/host/xml_order.h"
 #include "word/types.h"
 
 namespace word::docx {
 namespace {
-
-// The sequence of CT_RPr.
-const char* const kOrder[] = {
-    "w:rStyle",
-    "w:rFonts",
-    "w:b",
-    "w:bCs",
-    "w:i",
-    "w:iCs",
-    "w:caps",
-    "w:smallCaps",
-    "w:strike",
-    "w:dstrike",
-    "w:outline",
-    "w:shadow",
-    "w:emboss",
-    "w:imprint",
-    "w:noProof",
-    "w:snapToGrid",
-    "w:vanish",
-    "w:webHidden",
-    "w:color",
-    "w:spacing",
-    "w:w",
-    "w:kern",
-    "w:position",
-    "w:sz",
-    "w:szCs",
-    "w:highlight",
-    "w:u",
-    "w:effect",
-    "w:bdr",
-    "w:shd",
-    "w:fitText",
-    "w:vertAlign",
-    "w:rtl",
-    "w:cs",
-    "w:em",
-    "w:lang",
-    "w:eastAsianLayout",
-    "w:specVanish",
-    "w:oMath",
-    "w:rPrChange",
-};
-
-int OrderOf(const char* name) {
-  int n = static_cast<int>(sizeof kOrder / sizeof kOrder[0]);
-  for (int i = 0; i < n; ++i)
-    if (!std::strcmp(kOrder[i], name)) return i;
-  return -1;
-}
 
 std::optional<bool> OnOff(pugi::xml_node n) {
   if (!n) return std::nullopt;
@@ -177,13 +127,7 @@ pugi::xml_node RunPropertiesOf(pugi::xml_node run) {
 }
 
 pugi::xml_node RunPropertyChild(pugi::xml_node rPr, const char* name) {
-  if (pugi::xml_node e = rPr.child(name)) return e;
-  int order = OrderOf(name);
-  for (pugi::xml_node c = rPr.first_child(); c; c = c.next_sibling()) {
-    int o = OrderOf(c.name());
-    if (o > order) return rPr.insert_child_before(name, c);
-  }
-  return rPr.append_child(name);
+  return EnsureChild(rPr, name, kRunPropertiesOrder);
 }
 
 }  // namespace word::docx

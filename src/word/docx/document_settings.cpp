@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "word/docx/docx_error.h"
+#include "word/docx/host/xml_order.h"
 #include "word/docx/relationships.h"
 #include "word/docx/xml_part.h"
 
@@ -24,53 +25,6 @@ const std::string kNewSettings =
     "<w:settings xmlns:w=\"http://schemas.openxmlformats.org/wordprocessingml/2006/main\" "
     "xmlns:r=\"" +
     kRelationshipsNs + "\"/>";
-
-// The leading children of w:settings in their schema order, up to the last one
-// edited here; every other child stands after them.
-const std::string_view kLeadingOrder[] = {
-    "w:writeProtection",
-    "w:view",
-    "w:zoom",
-    "w:removePersonalInformation",
-    "w:removeDateAndTime",
-    "w:doNotDisplayPageBoundaries",
-    "w:displayBackgroundShape",
-    "w:printPostScriptOverText",
-    "w:printFractionalCharacterWidth",
-    "w:printFormsData",
-    "w:embedTrueTypeFonts",
-    "w:embedSystemFonts",
-    "w:saveSubsetFonts",
-    "w:saveFormsData",
-    "w:mirrorMargins",
-    "w:alignBordersAndEdges",
-    "w:bordersDoNotSurroundHeader",
-    "w:bordersDoNotSurroundFooter",
-    "w:gutterAtTop",
-    "w:hideSpellingErrors",
-    "w:hideGrammaticalErrors",
-    "w:activeWritingStyle",
-    "w:proofState",
-    "w:formsDesign",
-    "w:attachedTemplate",
-};
-
-long RankOf(std::string_view name) {
-  for (size_t i = 0; i < std::size(kLeadingOrder); ++i)
-    if (kLeadingOrder[i] == name) return static_cast<long>(i);
-  return -1;
-}
-
-// A new child called name, after the last child that must precede it.
-pugi::xml_node InsertInOrder(pugi::xml_node root, const char* name) {
-  const long rank = RankOf(name);
-  pugi::xml_node after;
-  for (pugi::xml_node child : root.children()) {
-    const long r = RankOf(child.name());
-    if (r >= 0 && r < rank) after = child;
-  }
-  return after ? root.insert_child_after(name, after) : root.prepend_child(name);
-}
 
 // Word writes a template's path as a file: URI that keeps Windows' backslashes
 // and escapes what a URI may not hold (a blank as %20, other text as UTF-8).
@@ -153,7 +107,7 @@ void DocumentSettings::SetOnOff(const char* name, bool on) {
   else if (e)
     e.remove_attribute("w:val");
   else
-    InsertInOrder(root, name);
+    EnsureChild(root, name, kSettingsOrder);
   Store();
 }
 
@@ -214,7 +168,7 @@ void DocumentSettings::SetAttachedTemplate(const std::string& path) {
   const std::string id = PutRelationship(package_, part_, e.attribute("r:id").value(),
                                          kTemplateType, FileUri(path), true);
   if (id.empty()) return;
-  if (!e) e = InsertInOrder(root, "w:attachedTemplate");
+  if (!e) e = EnsureChild(root, "w:attachedTemplate", kSettingsOrder);
   if (!e.attribute("r:id")) e.append_attribute("r:id");
   e.attribute("r:id").set_value(id.c_str());
   if (!root.attribute("xmlns:r")) root.append_attribute("xmlns:r") = kRelationshipsNs;

@@ -1,23 +1,16 @@
 #include <cstring>
 
+#include "word/docx/host/xml_order.h"
 #include "word/docx/range_impl.h"
 #include "word/errors.h"
 
 namespace word::docx {
 namespace {
 
-const char* const kAfterJc[] = {"w:textDirection", "w:textAlignment", "w:textboxTightWrap",
-                                "w:outlineLvl",    "w:divId",         "w:cnfStyle",
-                                "w:rPr",           "w:sectPr",        "w:pPrChange"};
-
 pugi::xml_node JcOf(pugi::xml_node p) {
   pugi::xml_node pPr = p.child("w:pPr");
   if (!pPr) pPr = p.prepend_child("w:pPr");
-  if (pugi::xml_node jc = pPr.child("w:jc")) return jc;
-  for (pugi::xml_node c = pPr.first_child(); c; c = c.next_sibling())
-    for (const char* name : kAfterJc)
-      if (!std::strcmp(c.name(), name)) return pPr.insert_child_before("w:jc", c);
-  return pPr.append_child("w:jc");
+  return EnsureChild(pPr, "w:jc", kParagraphPropertiesOrder);
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "runtime/utf8.h"
-#include "word/docx/drawing/xml_order.h"
+#include "word/docx/host/xml_order.h"
 
 namespace word::docx::drawing {
 

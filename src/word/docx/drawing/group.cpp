@@ -4,8 +4,8 @@
 #include "word/docx/drawing/anchor.h"
 #include "word/docx/drawing/markup.h"
 #include "word/docx/drawing/shape_range.h"
-#include "word/docx/drawing/xml_order.h"
 #include "word/docx/drawing/z_order.h"
+#include "word/docx/host/xml_order.h"
 #include "word/errors.h"
 
 namespace word::docx::drawing {

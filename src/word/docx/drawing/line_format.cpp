@@ -3,8 +3,8 @@
 #include "word/docx/drawing/color_xml.h"
 #include "word/docx/drawing/dml_tables.h"
 #include "word/docx/drawing/formats.h"
-#include "word/docx/drawing/xml_order.h"
 #include "word/docx/host/units.h"
+#include "word/docx/host/xml_order.h"
 
 namespace word::docx::drawing {
 

@@ -1,8 +1,8 @@
 #include "word/docx/drawing/anchor.h"
 #include "word/docx/drawing/formats.h"
-#include "word/docx/drawing/xml_order.h"
 #include "word/docx/drawing/z_order.h"
 #include "word/docx/host/units.h"
+#include "word/docx/host/xml_order.h"
 #include "word/errors.h"
 
 namespace word::docx::drawing {

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "word/docx/drawing/anchor.h"
-#include "word/docx/drawing/xml_order.h"
+#include "word/docx/host/xml_order.h"
 #include "word/errors.h"
 
 namespace word::docx::drawing {

@@ -1,6 +1,9 @@
 #pragma once
 // Children kept in the order the schemas prescribe: Word asks to repair a file
-// whose elements stand out of order, so every insertion goes through here.
+// whose elements stand out of order, so every insertion of the text engine and
+// the shape layer goes through here. A new child goes after the last child
+// that precedes it in the order; children the order does not name are passed
+// over.
 
 #include <cstring>
 #include <initializer_list>
@@ -8,7 +11,7 @@
 
 #include <pugixml.hpp>
 
-namespace word::docx::drawing {
+namespace word::docx {
 
 using Order = std::initializer_list<std::string_view>;
 
@@ -31,10 +34,14 @@ pugi::xml_node FirstChildOf(pugi::xml_node parent, Order names);
 void SetAttr(pugi::xml_node node, const char* name, const char* value);
 void SetAttr(pugi::xml_node node, const char* name, long long value);
 
-// Element orders of the parts of a shape that the layer edits.
+// Element orders of the parts the engine edits.
+extern const Order kRunPropertiesOrder;        // w:rPr
+extern const Order kParagraphPropertiesOrder;  // w:pPr
+extern const Order kSettingsOrder;  // the leading children of w:settings, up to the last one edited
+
 extern const Order kShapePropertiesOrder;  // a:spPr, wps:spPr
 extern const Order kLineOrder;             // a:ln
 extern const Order kFillChoices;           // the fill kinds of spPr and ln
 extern const Order kWspOrder;              // wps:wsp
 
-}  // namespace word::docx::drawing
+}  // namespace word::docx
