@@ -59,6 +59,11 @@ void InsertFormulaAsField(Session& session, const std::u16string& text,
   InsertEqField(session, u"EQ " + code, control);
 }
 
+void InsertOwnFormulaAsField(Session& session, const std::u16string& text) {
+  const DriverControl control = DriverControl::WithTimeout(session.formulaTimeLimit);
+  InsertEqField(session, u"EQ " + FormulaToEq(text, FormulaSettings{}, control), control);
+}
+
 void InsertEqField(Session& session, const std::u16string& code, const DriverControl& control) {
   word::Application& app = *session.WordApp;
   MaskedGreek greek = MaskGreek(code);

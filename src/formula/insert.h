@@ -28,6 +28,10 @@ std::vector<std::u16string> CollectScripts(const std::u16string& code);
 // the document untouched.
 void InsertFormulaAsField(Session& session, const std::u16string& text,
                           const DriverControl& control);
+// A formula the program wrote itself (a converted angle, a reduced
+// fraction): "/" always puts its first operand on top, whatever the
+// teacher's fraction option, so the value cannot turn upside down.
+void InsertOwnFormulaAsField(Session& session, const std::u16string& text);
 // code begins with "EQ ". The field replaces the selection; its scripts
 // shrink to 70 percent, and with EmbellishFormula its characters get fonts.
 void InsertEqField(Session& session, const std::u16string& code, const DriverControl& control = {});

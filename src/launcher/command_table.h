@@ -65,7 +65,7 @@ inline constexpr std::array<CommandRow, 41> kCommandTable{{
     {u"fraction", How::kRoutine, {}, false},
     {u"radicalexpression", How::kRoutine, {}, false},
     {u"enlarge", How::kRoutine, {}, false},
-    {u"angle2radian", How::kModeless, u"frmAngle2Radian", false},
+    {u"angle2radian", How::kModeless, u"frmAngle2Radian", true},
     {u"inequality", How::kModeless, u"frmInequality", false},
     {u"equation", How::kModeless, u"frmEquation", false},
     {u"inequality", How::kModeless, u"frmInequality", false},  // never reached

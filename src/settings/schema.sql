@@ -36,7 +36,8 @@ CREATE TABLE record (
 
 INSERT INTO record (id, Date, Time, Data) VALUES
   (1, '', '', ''), (2, '', '', ''), (3, '', '', ''), (4, '', '', ''), (5, '', '', ''),
-  (6, '', '', ''), (7, '', '', ''), (8, '', '', ''), (9, '', '', ''), (10, '', '', '');
+  (6, '', '', ''), (7, '', '', ''), (8, '', '', ''), (9, '', '', ''), (10, '', '', ''),
+  (11, '', '', ''), (12, '', '', ''), (13, '', '', '');
 
 -- Key bindings: Name is the macro of the template, Value the keys.
 CREATE TABLE hotkey (

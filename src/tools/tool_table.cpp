@@ -6,6 +6,7 @@
 #include "charts/frmZFT.h"
 #include "figures/frmXDT.h"
 #include "formula/commands.h"
+#include "formula/frmAngle2Radian.h"
 #include "formula/frmGS.h"
 #include "graph/frmGraph.h"
 #include "solvers/commands.h"
@@ -28,6 +29,7 @@ const std::array kForms{
     FormBinding{u"frmXDT", &ui::MakeForm<frmXDT>},
     FormBinding{u"frmZFT", &ui::MakeForm<frmZFT>},
     FormBinding{u"frmSXT", &ui::MakeForm<frmSXT>},
+    FormBinding{u"frmAngle2Radian", &ui::MakeForm<frmAngle2Radian>},
 };
 
 }  // namespace
