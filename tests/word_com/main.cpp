@@ -8,6 +8,8 @@
 #include "scripts.h"
 
 int main() {
+  // Failures show as they happen, also when a later script hangs.
+  std::setvbuf(stdout, nullptr, _IONBF, 0);
   // Without the BSTR cache every string goes through the spied heap.
   if (!std::getenv("OANOCACHE")) {
     std::printf("OANOCACHE=1 must be set, or freed strings stay in the cache\n");

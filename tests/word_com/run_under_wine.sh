@@ -24,4 +24,5 @@ export WINEPREFIX WINEDEBUG=-all OANOCACHE=1
 unset DISPLAY WAYLAND_DISPLAY
 # A first start creates the prefix; its messages are no test output.
 [ -d "$WINEPREFIX" ] || "$wine" cmd /c exit >/dev/null 2>&1
-exec "$wine" "$exe"
+# A script that never ends fails the run instead of holding the build.
+exec timeout 300 "$wine" "$exe"

@@ -1,10 +1,15 @@
 // The tools run through both back ends: one row per tool script.
 #include "scripts.h"
+#include "charts/histogram.h"
+#include "charts/pie_chart.h"
+#include "figures/draw_list.h"
+#include "figures/segment_diagram.h"
 #include "formula/commands.h"
 #include "runtime/recording_prompt.h"
 #include "session/document_init.h"
 #include "session/figure.h"
 #include "solvers/a_c.h"
+#include "solvers/commands.h"
 #include "solvers/equation.h"
 #include "solvers/factoring.h"
 #include "solvers/inequality.h"
@@ -57,6 +62,42 @@ void Figure(lp::Session& session) {
   label->Fill().SetVisible(false);
   Name(session, *label, u"标签");
   lp::CloseFigure(session, u"图形");
+}
+
+// The same "random" numbers on both back ends.
+double Quarter() {
+  return 0.25;
+}
+
+void SegmentDiagram(lp::Session& session) {
+  lp::figures::DrawFigure(session, lp::figures::SegmentDiagram({}), u"区间");
+}
+
+void Histogram(lp::Session& session) {
+  lp::charts::HistogramRequest request;
+  request.fill = true;
+  lp::figures::DrawFigure(session, lp::charts::Histogram(request, &Quarter).shapes, u"组合");
+}
+
+void PieChart(lp::Session& session) {
+  lp::charts::PieRequest request;
+  request.fill = true;
+  lp::figures::DrawFigure(session, lp::charts::PieChart(request, &Quarter), u"组合");
+}
+
+// A tool that runs without a dialog asks nothing of the user interface.
+class NoFrontend : public lp::Frontend {
+ public:
+  void ShowSplash() override {}
+  void SetSplashProgress(const std::u16string&) override {}
+  void UnloadSplash() override {}
+  void ShowForm(std::u16string_view, bool) override {}
+  void PumpEvents() override {}
+};
+
+void ShuShi(lp::Session& session) {
+  NoFrontend frontend;
+  lp::ShuShiCommand(session, frontend);
 }
 
 void Factoring(lp::Session& session) {
@@ -145,6 +186,10 @@ const std::vector<Script>& Scripts() {
        &Permutation,
        "A{ eq \\o(\\s\\up 5(2),\\s\\do 3(5)) }=20",
        Fake::kCannotFollow},
+      {"segment diagram", {u"", u"", u""}, &SegmentDiagram, ""},
+      {"histogram", {u"", u"", u""}, &Histogram, ""},
+      {"pie chart", {u"", u"", u""}, &PieChart, ""},
+      {"shushi", {u"", u"123+45", u""}, &ShuShi, "123+45"},
       {"gs", {u"解：", u"x^2+1", u"。"}, &Gs, "解：{ EQ x[size=7:\\S(2)]＋1 }。"},
       {"gs over a paragraph",
        {u"", u"y=2x\r", u"下一行"},

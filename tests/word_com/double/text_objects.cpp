@@ -487,7 +487,7 @@ const std::vector<Member>& ReplacementObj::Members() const {
 }
 
 // Fields: a field is its begin mark, its code and its end mark (an EQ field's
-// result is empty); Word pads the code given to Add with a blank each side.
+// result is empty).
 std::vector<FieldState*> FieldsObj::InSpan() const {
   Story& story = *span->story;
   long from = whole ? 0 : span->start,
@@ -524,15 +524,26 @@ void SortFields(Story& story) {
                    [&](const FieldState& a, const FieldState& b) { return first(a) < first(b); });
 }
 
+// Word pads a code given to Add with a blank each side; with no code given,
+// the range's own text becomes the code, as selected text does under Ctrl+F9.
 Value AddField(FieldsObj& fields, Args& a) {
   State& st = fields.state();
   auto& where = AsObject<RangeObj>(a[0]);
   Span& s = *where.span;
   Story& story = *s.story;
+  const Text code = Given(a[2]) ? AsText(a[2]) : Text();
+  const bool fromRange = code.empty() && s.end > s.start;
   long id = st.nextField++;
-  std::vector<Char> chars = Chars(u"\x13 " + AsText(a[2]) + u" \x15", FormatAt(story, s.start));
+  Format format = FormatAt(story, s.start);
+  std::vector<Char> chars = Chars(u"\x13", format);
+  std::vector<Char> inner =
+      fromRange ? std::vector<Char>(story.chars.begin() + s.start, story.chars.begin() + s.end)
+                : Chars(u" " + code + u" ", format);
+  chars.insert(chars.end(), inner.begin(), inner.end());
+  chars.push_back(Char{u'\x15', format});
   for (Char& c : chars) c.field = id;
-  story.fields.push_back(FieldState{id, AsLong(a[1]), false});
+  story.fields.push_back(
+      FieldState{id, Given(a[1]) ? AsLong(a[1]) : long{word::wdFieldEmpty}, false});
   const bool overSelection =
       st.selection->story == &story && st.selection->start == s.start && st.selection->end == s.end;
   long start = s.start;
@@ -541,7 +552,7 @@ Value AddField(FieldsObj& fields, Args& a) {
   // Over the selection, an empty field takes the caret between the blanks of
   // its code, so that typing writes the code; any other goes on behind it.
   if (overSelection) {
-    long caret = AsText(a[2]).empty() ? start + 2 : start + static_cast<long>(chars.size());
+    long caret = code.empty() && !fromRange ? start + 2 : start + static_cast<long>(chars.size());
     SelectSpan(st, &story, caret, caret);
   }
   return Make<FieldObj>(st, "Fields(" + Arg(IndexInStory(story, id)) + ")", story, id);
