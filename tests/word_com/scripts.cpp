@@ -4,7 +4,9 @@
 #include "charts/pie_chart.h"
 #include "figures/draw_list.h"
 #include "figures/segment_diagram.h"
+#include "formula/angle_radian.h"
 #include "formula/commands.h"
+#include "formula/insert.h"
 #include "runtime/recording_prompt.h"
 #include "session/document_init.h"
 #include "session/figure.h"
@@ -150,6 +152,11 @@ void GsMathType(lp::Session& session) {
   lp::RunGs(session, lp::DriverControl{});
 }
 
+// The angle dialog's insert: 135 degrees typed as a multiple of pi.
+void AngleToRadians(lp::Session& session) {
+  lp::InsertOwnFormulaAsField(session, lp::DegreesToRadians(u"135", u"", u"").notation);
+}
+
 void Mhgs(lp::Session& session) {
   lp::RunMhgs(session);
 }
@@ -202,6 +209,7 @@ const std::vector<Script>& Scripts() {
        "{ [i:EQ] \\[i:F]([i:a],[i:b])}",
        Fake::kCannotFollow},
       {"gs as TeX", {u"", u"x^2", u""}, &GsMathType, "$x^2$"},
+      {"angle to radians", {u"", u"", u""}, &AngleToRadians, "{ EQ \\F(3`,4) }"},
       {"mhgs", {u"", u"a+b>=3", u""}, &Mhgs, "[i:a]＋[i:b]≥3"},
   };
   return scripts;
