@@ -2,60 +2,15 @@
 
 #include <cmath>
 #include <cstdint>
-#include <numeric>
 #include <optional>
 
+#include "formula/exact_number.h"
 #include "runtime/text.h"
-#include "toolkit/exact.h"
 
 namespace lp {
 namespace {
 
 constexpr int64_t kSecondsPerHalfTurn = 180 * 3600;
-// Typed numbers are kept below this so that sums of them stay exact.
-constexpr int64_t kLimit = 1'000'000'000;
-
-struct Rational {
-  int64_t num = 0;
-  int64_t den = 1;
-};
-
-Rational Normal(int64_t num, int64_t den) {
-  if (den < 0) num = -num, den = -den;
-  int64_t g = std::gcd(num, den);
-  return g > 1 ? Rational{num / g, den / g} : Rational{num, den};
-}
-
-// "12", "-2.25", ".5": the exact value, or nothing for anything else.
-std::optional<Rational> ParseDecimal(const std::u16string& text) {
-  size_t i = 0;
-  bool negative = !text.empty() && (text[0] == u'-' || text[0] == u'+');
-  if (negative) i = 1;
-  negative = negative && text[0] == u'-';
-  int64_t num = 0, den = 1;
-  bool digits = false, point = false;
-  for (; i < text.size(); ++i) {
-    char16_t c = text[i];
-    if (c == u'.' && !point) {
-      point = true;
-    } else if (c >= u'0' && c <= u'9') {
-      num = num * 10 + (c - u'0');
-      if (point) den *= 10;
-      digits = true;
-      if (num >= kLimit || den >= kLimit) return std::nullopt;
-    } else {
-      return std::nullopt;
-    }
-  }
-  if (!digits) return std::nullopt;
-  return Normal(negative ? -num : num, den);
-}
-
-std::u16string Digits(int64_t n) {
-  std::string s = std::to_string(n);
-  return {s.begin(), s.end()};
-}
-
 // k pi as the formula notation writes it: "@p", "2@p", "(3@p)/4".
 std::u16string PiNotation(Rational r) {
   if (r.num == 0) return u"0";
@@ -112,10 +67,9 @@ AngleConversion DegreesToRadians(const std::u16string& degrees, const std::u16st
   }
   if (parts[0].size() && parts[0][0] == u'-' && total.num > 0) total.num = -total.num;
   const int64_t num = total.num, den = total.den * kSecondsPerHalfTurn;
-  if (std::abs(num) > INT32_MAX || den > INT32_MAX)
-    return {{}, u"角度的数值太大或小数位太多，无法精确换算。"};
-  Fraction f = ReduceFraction(static_cast<int32_t>(num), static_cast<int32_t>(den));
-  return {PiNotation({static_cast<int64_t>(f.ReducedNum), f.ReducedDen}), {}};
+  const std::optional<Rational> turns = ReducedExactly(num, den);
+  if (!turns) return {{}, u"角度的数值太大或小数位太多，无法精确换算。"};
+  return {PiNotation(*turns), {}};
 }
 
 AngleConversion RadiansToDegrees(const std::u16string& radians) {

@@ -5,14 +5,11 @@
 
 #include <string>
 
+#include "formula/exact_forms.h"
+
 namespace lp {
 
-// The notation of the converted angle, or the message telling the teacher
-// why the input was refused (then notation is empty).
-struct AngleConversion {
-  std::u16string notation;
-  std::u16string error;
-};
+using AngleConversion = ExactForm;
 
 // Degrees, minutes and seconds as typed (whole numbers or finite decimals;
 // a blank minute or second is 0) to a multiple of pi.

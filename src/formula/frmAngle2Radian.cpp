@@ -3,7 +3,6 @@
 #include <QGridLayout>
 
 #include "formula/angle_radian.h"
-#include "formula/insert.h"
 #include "settings/record_slots.h"
 #include "ui/named_controls.h"
 
@@ -72,15 +71,8 @@ void frmAngle2Radian::cmdOK_Click() {
           ? RadiansToDegrees(txtRad->text().toStdU16String())
           : DegreesToRadians(txtDu->text().toStdU16String(), txtFen->text().toStdU16String(),
                              txtMiao->text().toStdU16String());
-  if (!result.error.empty()) {
-    session_.prompt.MsgBox(result.error);
-    return;
-  }
-  labResult->setText(QString::fromStdU16String(result.notation)
-                         .replace(QStringLiteral("@p"), QStringLiteral("π"))
-                         .remove(QLatin1Char('('))
-                         .remove(QLatin1Char(')')));
-  InsertOwnFormulaAsField(session_, result.notation);
+  if (InsertExactForm(session_, result))
+    labResult->setText(QString::fromStdU16String(ReadableForm(result.notation)));
 }
 
 }  // namespace lp

@@ -7,7 +7,9 @@
 #include "figures/frmXDT.h"
 #include "formula/commands.h"
 #include "formula/frmAngle2Radian.h"
+#include "formula/frmFraction.h"
 #include "formula/frmGS.h"
+#include "formula/frmRadicalExpression.h"
 #include "graph/frmGraph.h"
 #include "solvers/commands.h"
 #include "solvers/frmFactoring.h"
@@ -30,6 +32,8 @@ const std::array kForms{
     FormBinding{u"frmZFT", &ui::MakeForm<frmZFT>},
     FormBinding{u"frmSXT", &ui::MakeForm<frmSXT>},
     FormBinding{u"frmAngle2Radian", &ui::MakeForm<frmAngle2Radian>},
+    FormBinding{u"frmFraction", &ui::MakeForm<frmFraction>},
+    FormBinding{u"frmRadicalExpression", &ui::MakeForm<frmRadicalExpression>},
 };
 
 }  // namespace
