@@ -1,6 +1,7 @@
 #include "formula/angle_radian.h"
 
 #include <cmath>
+#include <numbers>
 #include <cstdint>
 #include <optional>
 
@@ -102,7 +103,7 @@ AngleConversion RadiansToDegrees(const std::u16string& radians) {
   const double seconds =
       static_cast<double>(r.num * kSecondsPerHalfTurn) / static_cast<double>(r.den);
   if (hasPi) return {DmsNotation(seconds, false), {}};
-  return {DmsNotation(std::round(seconds / M_PI), true), {}};
+  return {DmsNotation(std::round(seconds / std::numbers::pi), true), {}};
 }
 
 }  // namespace lp
