@@ -5,6 +5,7 @@
 set -euo pipefail
 lp="$1" corpus="$2/corpus/docx"
 skip=77
+[[ -d "$corpus" ]] || { echo "shared test material missing: $corpus (see README)"; exit $skip; }
 for tool in soffice pdftotext; do
   command -v "$tool" > /dev/null || { echo "$tool missing: skipped"; exit $skip; }
 done

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <set>
 
+#include "../shared_material.h"
 #include "formula/generators.h"
 #include "formula/latex_to_omml.h"
 #include "runtime/utf8.h"
@@ -54,6 +55,7 @@ TEST(LatexToOmml, Constructs) {
 }
 
 TEST(LatexToOmml, CorpusGivesSchemaValidMath) {
+  LP_SKIP_WITHOUT_SHARED(LP_XSD_DRIVER);
   const auto known = Lines(LP_FORMULA_KNOWN_INVALID);
   const std::set<std::string> invalid(known.begin(), known.end());
   std::string para =

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 
+#include "../shared_material.h"
 #include "docx_test_util.h"
 #include "word/docx/docx_application.h"
 #include "word/docx/docx_document.h"
@@ -79,12 +80,14 @@ void RoundTrip(const fs::path& original, const fs::path& work) {
 }
 
 TEST(Corpus, RoundTripKeepsEveryUntouchedPartAndAllText) {
+  LP_SKIP_WITHOUT_SHARED(LP_CORPUS_DIR);
   testing::TempDir dir;
   for (const char* folder : {"docx/powertools", "docx/poi", "docx/shapes", "eq"})
     for (const fs::path& f : Files(folder)) RoundTrip(f, dir / "work.docx");
 }
 
 TEST(Corpus, OddPackagesOpenOrAreRefusedAndStayUntouched) {
+  LP_SKIP_WITHOUT_SHARED(LP_CORPUS_DIR);
   testing::TempDir dir;
   for (const fs::path& f : Files("docx/robustness")) {
     SCOPED_TRACE(f.filename().string());

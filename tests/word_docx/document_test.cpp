@@ -8,6 +8,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "../shared_material.h"
 #include "docx_test_util.h"
 #include "word/docx/docx_application.h"
 #include "word/docx/docx_document.h"
@@ -57,6 +58,7 @@ TEST(DocxFile, CaretPersistsBetweenRunsAndUnchangedFilesAreNotWritten) {
 }
 
 TEST(DocxFile, FileWithoutStoredCaretHasItAtTheEndOfTheLastParagraph) {
+  LP_SKIP_WITHOUT_SHARED(LP_CORPUS_DIR);
   auto app = OpenDocx(testing::Corpus("docx/poi/Bug54849.docx"));
   auto& doc = app->ActiveDocument();
   EXPECT_EQ(app->Selection().Start(), doc.Content()->End() - 1);
@@ -185,6 +187,7 @@ namespace word::docx {
 namespace {
 
 TEST(DocxFile, TextBoxStoriesHaveTheirOwnPositions) {
+  LP_SKIP_WITHOUT_SHARED(LP_CORPUS_DIR);
   TempDir dir;
   const auto file = dir / "box.docx";
   std::filesystem::copy_file(testing::Corpus("docx/shapes/aspose-Various shapes.docx"), file);

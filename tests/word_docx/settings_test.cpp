@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "../shared_material.h"
 #include "docx_test_util.h"
 #include "word/docx/docx_application.h"
 
@@ -37,6 +38,7 @@ bool Has(const std::string& xml, const std::string& text) {
 }
 
 TEST(DocxSettings, FontEmbeddingAndTemplateAreKeptInTheSettingsPart) {
+  LP_SKIP_WITHOUT_SHARED(LP_CORPUS_DIR);
   TempDir dir;
   struct Row {
     const char* name;

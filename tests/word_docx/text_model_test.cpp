@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "../shared_material.h"
 #include "docx_test_util.h"
 #include "word/docx/docx_application.h"
 #include "word/docx/new_document.h"
@@ -166,6 +167,7 @@ TEST(Positions, SimpleFieldsCountAsFields) {
 }
 
 TEST(Positions, WordWrittenEqFieldsAreFoundByTheirCodes) {
+  LP_SKIP_WITHOUT_SHARED(LP_CORPUS_DIR);
   struct Row {
     const char* file;
     int eqFields;

@@ -4,6 +4,7 @@
 # validates the result's word/document.xml wherever the untouched file validates.
 tool=$1
 corpus=$2
+[ -d "$corpus" ] || { echo "shared test material missing: $corpus (see README)"; exit 77; }
 tmp=$(mktemp -d)
 trap 'rm -rf "$tmp"' EXIT
 failed=0

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include "../shared_material.h"
 #include "schema_check.h"
 #include "word/docx/docx_application.h"
 #include "word/docx/docx_document.h"
@@ -57,6 +58,7 @@ void DrawOneOfEach(word::Application& app) {
 }
 
 TEST(ShapesInAFile, EveryKindSurvivesSavingAndOpening) {
+  LP_SKIP_WITHOUT_SHARED(LP_SHARED_DIR);
   const fs::path file =
       fs::temp_directory_path() / ("lp_shapes_" + std::to_string(getpid()) + ".docx");
   fs::remove(file);

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "../shared_material.h"
 #include "test_host.h"
 #include "word/docx/drawing/anchor.h"
 
@@ -126,6 +127,7 @@ std::string DocumentXmlOf(const std::string& docx) {
 }
 
 TEST(ShapeGroups, ShapesOfAWordFileAreFoundAndKept) {
+  LP_SKIP_WITHOUT_SHARED(LP_SHARED_DIR);
   const std::string xml =
       DocumentXmlOf(std::string(LP_SHARED_DIR) + "/corpus/docx/shapes/aspose-Various shapes.docx");
   ASSERT_FALSE(xml.empty());
