@@ -2,14 +2,15 @@
 
 BUILD ?= build
 JOBS ?= $(shell nproc)
+CMAKE_ARGS ?=
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
 # Everything the build, the tests, the demo and the benchmarks need, from Debian.
 PACKAGES := build-essential cmake ninja-build pkg-config \
   qt6-base-dev qt6-qpa-plugins libsqlite3-dev sqlite3 libzip-dev libpugixml-dev libpng-dev \
-  libgtest-dev libgmock-dev libbenchmark-dev \
+  libgtest-dev libgmock-dev \
   libjpeg-turbo-progs libjpeg62-turbo-dev libmuparser-dev \
-  libxml2-utils poppler-utils fonts-wqy-zenhei unzip zip python3 g++-mingw-w64-x86-64 nodejs wine64
+  libxml2-utils poppler-utils fonts-wqy-zenhei unzip python3 g++-mingw-w64-x86-64 nodejs wine64
 
 .PHONY: deps build test demo bench clean com com-wine format
 
@@ -22,7 +23,7 @@ deps:
 	@tests/tools/ensure_katex.sh
 
 $(BUILD)/build.ninja:
-	cmake -S . -B $(BUILD) -G Ninja -DLP_BUILD_BENCH=ON
+	cmake -S . -B $(BUILD) -G Ninja -DLP_BUILD_BENCH=ON $(CMAKE_ARGS)
 
 build: deps $(BUILD)/build.ninja
 	cmake --build $(BUILD) -j $(JOBS)

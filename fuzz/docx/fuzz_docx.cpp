@@ -1,4 +1,4 @@
-// Seeds: the files of ../shared/corpus/docx/robustness and docx/poi.
+// Seeds: corpus/ here, and the .docx files of ../shared/corpus/docx.
 #include <cstddef>
 #include <cstdint>
 #include <string>

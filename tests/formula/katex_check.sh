@@ -5,7 +5,7 @@ set -euo pipefail
 lumenpad="$1"
 here="$(cd "$(dirname "$0")" && pwd)"
 tools="$here/../tools"
-[ -f "$tools/node_modules/katex/package.json" ] || { echo "KaTeX missing"; exit 77; }
+[ -f "$tools/node_modules/katex/package.json" ] || { echo "KaTeX missing: make deps installs it (tests/tools/ensure_katex.sh)"; exit 77; }
 out="$(mktemp)"
 config="$out.db"
 trap 'rm -f "$out" "$config"' EXIT
