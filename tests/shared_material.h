@@ -7,7 +7,7 @@
 
 #include <filesystem>
 
-#define LP_SKIP_WITHOUT_SHARED(path)                                                       \
-  if (!std::filesystem::exists(path))                                                      \
-  GTEST_SKIP() << "shared test material missing: " << std::filesystem::path(path).string() \
+#define LP_SKIP_WITHOUT_SHARED(where)                                                       \
+  if (!std::filesystem::exists(where))                                                      \
+  GTEST_SKIP() << "shared test material missing: " << std::filesystem::path(where).string() \
                << " (see README)"

@@ -69,7 +69,9 @@ TEST(LatexToOmml, CorpusGivesSchemaValidMath) {
       continue;
     }
     auto omml = LatexToOmml(tex);
-    if (!invalid.count(formula)) EXPECT_TRUE(omml) << formula << " -> " << ToUtf8(tex);
+    if (!invalid.count(formula)) {
+      EXPECT_TRUE(omml) << formula << " -> " << ToUtf8(tex);
+    }
     if (omml) para += *omml + "\n";
   }
   para += "</m:oMathPara>\n";
