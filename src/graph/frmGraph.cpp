@@ -16,9 +16,6 @@
 namespace lp {
 namespace {
 
-QString Q(const std::u16string& s) {
-  return QString::fromStdU16String(s);
-}
 QString Q(const char16_t* s) {
   return QString::fromUtf16(s);
 }
