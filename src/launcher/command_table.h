@@ -49,7 +49,7 @@ inline constexpr std::array<CommandRow, 41> kCommandTable{{
     {u"kt", How::kModeless, u"frmKT", false},
     {u"zft", How::kModeless, u"frmZFT", true},
     {u"sxt", How::kModeless, u"frmSXT", true},
-    {u"sector", How::kModeless, u"frmSector", false},
+    {u"sector", How::kModeless, u"frmSector", true},
     {u"fangge", How::kModeless, u"frmFangGe", false},
     {u"bat", How::kModeless, u"frmWordBat", false},
     {u"interval", How::kModeless, u"frmInterval", false},

@@ -4,6 +4,7 @@
 
 #include "charts/frmSXT.h"
 #include "charts/frmZFT.h"
+#include "figures/frmSector.h"
 #include "figures/frmXDT.h"
 #include "formula/commands.h"
 #include "formula/frmAngle2Radian.h"
@@ -29,6 +30,7 @@ const std::array kForms{
     FormBinding{u"frmGS", &ui::MakeForm<frmGS>},
     FormBinding{u"frmGraph", &ui::MakeForm<frmGraph>},
     FormBinding{u"frmXDT", &ui::MakeForm<frmXDT>},
+    FormBinding{u"frmSector", &ui::MakeForm<frmSector>},
     FormBinding{u"frmZFT", &ui::MakeForm<frmZFT>},
     FormBinding{u"frmSXT", &ui::MakeForm<frmSXT>},
     FormBinding{u"frmAngle2Radian", &ui::MakeForm<frmAngle2Radian>},

@@ -35,6 +35,26 @@ angle2radian)
   [[ "$(sqlite3 "$db" 'select Data from record where id=11')" == "1@@1@@30@@@@3π4" ]] ||
     fail "slot: $(sqlite3 "$db" 'select Data from record where id=11')"
   ;;
+sector)
+  seed t.docx "扇形：【图】"
+  run sector --doc t.docx --set optKind_1=1 --set txtR=3 --set txtAngle=90 --set txtLabel= \
+    --click cmdExit
+  cp t.docx before.docx
+  out="$(run sector --doc t.docx --set txtAngle=400 --click cmdOK --click cmdExit 2>&1)"
+  [[ "$out" == *"圆心角应大于 0° 且不超过 360°"* ]] || fail "no message: $out"
+  cmp -s t.docx before.docx || fail "a refused angle changed the document"
+  # The remembered arc of radius 3 cm and 90 degrees, with its two radii.
+  run sector --doc t.docx --select "【图】" --set txtAngle=90 --click cmdOK --click cmdExit
+  python3 "$here/figure_dump.py" t.docx > shapes.tsv
+  python3 - <<'PY'
+rows = [line.rstrip("\n").split("\t") for line in open("shapes.tsv", encoding="utf-8")]
+assert {r[0] for r in rows} == {"扇形"}, rows
+names = sorted(r[1] for r in rows)
+assert names == ["半径", "半径", "弧", "角标"], names
+arc = [r for r in rows if r[1] == "弧"][0]
+assert abs(float(arc[5]) - 3 * 28.4) < 0.1 and abs(float(arc[6]) - 3 * 28.4) < 0.1, arc
+PY
+  ;;
 *)
   fail "unknown check $check"
   ;;
