@@ -22,7 +22,8 @@ RgbImage MakeTestImage(int width, int height, unsigned seed) {
   for (int y = 0; y < height; ++y) {
     for (int x = 0; x < width; ++x) {
       const double dx = x - width * 0.6, dy = y - height * 0.4;
-      const bool inDisc = dx * dx + dy * dy < 0.05 * (width * width + height * height);
+      const bool inDisc =
+          dx * dx + dy * dy < 0.05 * (double(width) * width + double(height) * height);
       for (int c = 0; c < 3; ++c) {
         noise = noise * 1664525u + 1013904223u;
         double v = 128 + 70 * std::sin(0.05 * x * (c + 1) + 0.03 * y) + 30 * std::cos(0.4 * y + c);
