@@ -51,6 +51,30 @@ class Document {
   // BuiltInDocumentProperties by Word's English name ("Title", "Author", ...).
   virtual Text BuiltInDocumentProperty(const Text& name) const = 0;
   virtual void SetBuiltInDocumentProperty(const Text& name, const Text& value) = 0;
+  // Whole-document clean-ups, each one of Word's loops over a collection that
+  // covers every story (body, headers, footers, notes, text boxes). Each
+  // returns how many items it changed.
+  // Hyperlinks of text (Hyperlink.Delete): the link goes, its text stays.
+  virtual long DeleteTextHyperlinks() = 0;
+  // Hyperlinks of shapes and pictures.
+  virtual long DeleteShapeHyperlinks() = 0;
+  // Every header and footer of every section, with the shapes and watermarks in them.
+  virtual long DeleteHeadersFooters() = 0;
+  // Empty paragraphs of the body, cells and text boxes; never one that holds
+  // an object, a shape anchor, a field or a bookmark, nor the last paragraph
+  // of a cell, text box or section.
+  virtual long DeleteBlankParagraphs() = 0;
+  // Find.Execute with wdReplaceAll over each of the StoryRanges: a match may
+  // span runs; the replacement takes the format of the match's first run.
+  virtual long ReplaceAllText(const Text& findText, const Text& replacement) = 0;
+  // Equation objects, EQ fields and native equations grow by the factor.
+  virtual long ScaleFormulas(double factor) = 0;
+  // Pictures of the body grow by the factor.
+  virtual long ScalePictures(double factor) = 0;
+  // The paragraphs that hold a formula align their characters on the centre
+  // line (BaseLineAlignment); with `unshift` raised or lowered formulas are
+  // put back on the line as well.
+  virtual long AlignFormulas(bool unshift) = 0;
   virtual void Save() = 0;
   virtual void SaveAs(const Text& path) = 0;
   virtual void Close(bool saveChanges) = 0;
@@ -61,7 +85,11 @@ class Documents {
   virtual ~Documents() = default;
   virtual long Count() const = 0;
   virtual Document& Add(const Text& templatePath = Text()) = 0;
-  virtual Document& Open(const Text& path) = 0;
+  // Hidden when not visible, as Word opens a document without a window.
+  virtual Document& Open(const Text& path, bool visible) = 0;
+  // How many documents may be opened and worked on at once from different
+  // threads: 1 for Word itself, more for the file engine.
+  virtual unsigned IndependentOpens() const = 0;
 };
 
 }  // namespace word

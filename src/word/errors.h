@@ -18,6 +18,7 @@ enum WordError : long {
   kCommandFailed = 4198,
   kNoDocumentOpen = 4248,
   kCommandNotValid = 4605,
+  kFileNotFound = 5174,
   kObjectDeleted = 5825,
   kWrapNotSettable = 5843,
   kObjectNotAvailable = 5852,
@@ -67,6 +68,13 @@ inline ComError ItemNotFound() {
 }
 inline ComError MacroNotFound() {
   return ComError(kMemberNotFound, "无法运行指定的宏。");
+}
+inline ComError FileNotFound() {
+  return ComError(kFileNotFound, "找不到此文件。");
+}
+// Documents.Open of a file that is there but can't be read as a document.
+inline ComError CannotOpenFile(const std::string& why) {
+  return ComError(kCommandFailed, why);
 }
 inline ComError ShapeArgument(const std::string& why) {
   return ComError(kShapeArgument, why);

@@ -67,6 +67,14 @@ class ComDocument : public Document, public ComNode {
   void SetBuiltInDocumentProperty(const word::Text& name, const word::Text& value) override {
     Object().Object(L"BuiltInDocumentProperties", {name}).Put(L"Value", value);
   }
+  long DeleteTextHyperlinks() override;
+  long DeleteShapeHyperlinks() override;
+  long DeleteHeadersFooters() override;
+  long DeleteBlankParagraphs() override;
+  long ReplaceAllText(const word::Text& findText, const word::Text& replacement) override;
+  long ScaleFormulas(double factor) override;
+  long ScalePictures(double factor) override;
+  long AlignFormulas(bool unshift) override;
   void Save() override { Call(L"Save"); }
   void SaveAs(const word::Text& path) override { Call(L"SaveAs", {path}); }
   void Close(bool saveChanges) override { Call(L"Close", {saveChanges}); }
@@ -86,7 +94,15 @@ class ComDocuments : public Documents, public ComNode {
   Document& Add(const word::Text& templatePath) override {
     return Keep(templatePath.empty() ? Fixed(L"Add") : Fixed(L"Add", {templatePath}));
   }
-  Document& Open(const word::Text& path) override { return Keep(Fixed(L"Open", {path})); }
+  // Open(FileName, ConfirmConversions, ReadOnly, AddToRecentFiles, PasswordDocument,
+  // PasswordTemplate, Revert, WritePasswordDocument, WritePasswordTemplate, Format,
+  // Encoding, Visible): Visible alone is given.
+  Document& Open(const word::Text& path, bool visible) override {
+    const Variant m = Variant::Missing();
+    return Keep(Fixed(L"Open", {path, m, m, m, m, m, m, m, m, m, m, visible}));
+  }
+  // Word serves one caller at a time.
+  unsigned IndependentOpens() const override { return 1; }
 
  private:
   Document& Keep(Ref document) {

@@ -1,8 +1,12 @@
 #include "word/docx/docx_application.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <mutex>
+#include <thread>
 
+#include "runtime/utf8.h"
 #include "word/docx/auto_text.h"
 #include "word/docx/docx_document.h"
 #include "word/docx/new_document.h"
@@ -12,14 +16,48 @@
 namespace word::docx {
 namespace {
 
-class OneDocument : public word::Documents {
+// The document of the command line, and those a tool opens beside it. Open
+// and Close may run on several threads at once, each on its own document.
+class DocxDocuments : public word::Documents {
  public:
-  long Count() const override { return 1; }
-  word::Document& Add(const Text&) override { return Refuse(); }
-  word::Document& Open(const Text&) override { return Refuse(); }
+  long Count() const override {
+    std::lock_guard<std::mutex> lock(mutex_);
+    return 1 + static_cast<long>(opened_.size());
+  }
+  word::Document& Add(const Text&) override { throw OnlyOneDocument(); }
+  word::Document& Open(const Text& path, bool) override {
+    std::unique_ptr<DocxDocument> document;
+    const std::filesystem::path file(lp::ToUtf8(path));
+    std::error_code error;
+    if (!std::filesystem::exists(file, error)) throw FileNotFound();
+    try {
+      document = LoadDocx(file);
+    } catch (const DocxFileError& e) {
+      throw CannotOpenFile(e.what());
+    }
+    document->SetOpenedBy([this](DocxDocument* closed) { Forget(closed); });
+    std::lock_guard<std::mutex> lock(mutex_);
+    opened_.push_back(std::move(document));
+    return *opened_.back();
+  }
+  unsigned IndependentOpens() const override {
+    return std::max(1u, std::thread::hardware_concurrency());
+  }
 
  private:
-  word::Document& Refuse() { throw OnlyOneDocument(); }
+  void Forget(DocxDocument* closed) {
+    std::unique_ptr<DocxDocument> leaving;
+    std::lock_guard<std::mutex> lock(mutex_);
+    for (auto it = opened_.begin(); it != opened_.end(); ++it) {
+      if (it->get() != closed) continue;
+      leaving = std::move(*it);
+      opened_.erase(it);
+      break;
+    }
+  }
+
+  mutable std::mutex mutex_;
+  std::vector<std::unique_ptr<DocxDocument>> opened_;
 };
 
 class NoAddIns : public word::AddIns {
@@ -76,7 +114,7 @@ std::string FirstBytes(const std::filesystem::path& file, size_t* size) {
 }  // namespace
 
 struct DocxApplication::Parts {
-  OneDocument documents;
+  DocxDocuments documents;
   NoAddIns addIns;
   Bars bars;
   NoKeyBindings keys;
@@ -153,13 +191,8 @@ bool DocxApplication::SaveIfChanged() {
   return document_->SaveIfChanged();
 }
 
-std::unique_ptr<DocxApplication> OpenDocx(const std::filesystem::path& file) {
+std::unique_ptr<DocxDocument> LoadDocx(const std::filesystem::path& file) {
   std::error_code error;
-  if (!std::filesystem::exists(file, error)) {
-    auto doc = std::make_unique<DocxDocument>(NewDocumentPackage(), file);
-    doc->MarkChanged();  // the first save creates the file
-    return std::make_unique<DocxApplication>(std::move(doc));
-  }
   if (std::filesystem::is_directory(file, error))
     throw DocxFileError("这是一个文件夹，不是 .docx 文档。");
   size_t size = 0;
@@ -172,8 +205,17 @@ std::unique_ptr<DocxApplication> OpenDocx(const std::filesystem::path& file) {
                                   : "这是旧版 Word（.doc）文件，请先在 Word 中另存为 .docx。");
   }
   if (bytes.compare(0, 2, "PK") != 0) throw DocxFileError("文件不是 .docx 文档。");
-  return std::make_unique<DocxApplication>(
-      std::make_unique<DocxDocument>(Package::FromBytes(std::move(bytes)), file));
+  return std::make_unique<DocxDocument>(Package::FromBytes(std::move(bytes)), file);
+}
+
+std::unique_ptr<DocxApplication> OpenDocx(const std::filesystem::path& file) {
+  std::error_code error;
+  if (!std::filesystem::exists(file, error)) {
+    auto doc = std::make_unique<DocxDocument>(NewDocumentPackage(), file);
+    doc->MarkChanged();  // the first save creates the file
+    return std::make_unique<DocxApplication>(std::move(doc));
+  }
+  return std::make_unique<DocxApplication>(LoadDocx(file));
 }
 
 }  // namespace word::docx

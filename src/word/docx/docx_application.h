@@ -60,6 +60,8 @@ class DocxApplication : public word::Application {
 // Throws DocxFileError (a Chinese message) for a damaged, encrypted or
 // non-.docx file; the file is left as it was.
 std::unique_ptr<DocxApplication> OpenDocx(const std::filesystem::path& file);
+// An existing .docx file as a document; throws DocxFileError as OpenDocx does.
+std::unique_ptr<DocxDocument> LoadDocx(const std::filesystem::path& file);
 
 // Replaces the range with an equation given as OMML (an m:oMath element).
 // Throws ComError if the XML is not an equation.

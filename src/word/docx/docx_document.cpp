@@ -172,9 +172,13 @@ void DocxDocument::StoreCaret() {
   changed_ = true;
 }
 
+bool DocxDocument::Dirty() const {
+  return changed_ || coreChanged_ || partsChanged_ || settings_->Changed();
+}
+
 bool DocxDocument::SaveIfChanged() {
   StoreCaret();
-  if (!changed_ && !coreChanged_ && !settings_->Changed()) return false;
+  if (!Dirty()) return false;
   SaveTo(file_);
   RemoveCaretMarkers();
   return true;
@@ -184,7 +188,7 @@ void DocxDocument::SaveTo(const std::filesystem::path& file) {
   if (changed_) package_.Write(mainPart_, SerializeXml(xml_));
   if (coreChanged_) package_.Write("docProps/core.xml", SerializeXml(coreXml_));
   package_.SaveTo(file);
-  changed_ = coreChanged_ = false;
+  changed_ = coreChanged_ = partsChanged_ = false;
   settings_->Saved();
 }
 
@@ -289,18 +293,29 @@ void DocxDocument::SetBuiltInDocumentProperty(const Text& name, const Text& valu
 }
 
 void DocxDocument::Save() {
-  StoreCaret();
-  SaveTo(file_);
-  RemoveCaretMarkers();
+  std::error_code error;
+  WriteFile(!std::filesystem::exists(file_, error));
 }
 
 void DocxDocument::SaveAs(const Text& path) {
   file_ = std::filesystem::path(lp::ToUtf8(path));
-  Save();
+  WriteFile(true);
+}
+
+void DocxDocument::WriteFile(bool always) {
+  if (keepsCaret_) StoreCaret();
+  if (always || Dirty()) SaveTo(file_);
+  if (keepsCaret_) RemoveCaretMarkers();
 }
 
 void DocxDocument::Close(bool saveChanges) {
   if (saveChanges) Save();
+  if (auto leave = std::move(onClose_)) leave(this);  // the collection deletes this document
+}
+
+void DocxDocument::SetOpenedBy(std::function<void(DocxDocument*)> onClose) {
+  keepsCaret_ = false;
+  onClose_ = std::move(onClose);
 }
 
 pugi::xml_node DocxDocument::CaretParagraph() {

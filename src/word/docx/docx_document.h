@@ -63,6 +63,15 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   void SetSnapToShapes(bool on) override;
   Text BuiltInDocumentProperty(const Text& name) const override;
   void SetBuiltInDocumentProperty(const Text& name, const Text& value) override;
+  long DeleteTextHyperlinks() override;
+  long DeleteShapeHyperlinks() override;
+  long DeleteHeadersFooters() override;
+  long DeleteBlankParagraphs() override;
+  long ReplaceAllText(const Text& findText, const Text& replacement) override;
+  long ScaleFormulas(double factor) override;
+  long ScalePictures(double factor) override;
+  long AlignFormulas(bool unshift) override;
+  // Saves nothing when nothing changed and the file is there, as Word does.
   void Save() override;
   void SaveAs(const Text& path) override;
   void Close(bool saveChanges) override;
@@ -100,6 +109,9 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   // Writes the caret into the hidden bookmark, then saves if anything changed.
   bool SaveIfChanged();
   void SaveTo(const std::filesystem::path& file);
+  // A document opened by Documents.Open keeps no caret in its file, and
+  // leaves its collection when closed.
+  void SetOpenedBy(std::function<void(DocxDocument*)> onClose);
 
  private:
   void LoadStyles();
@@ -107,6 +119,14 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   void StoreCaret();
   void RemoveCaretMarkers();
   pugi::xml_node CoreProperties() const;
+  bool Dirty() const;
+  void WriteFile(bool always);
+  // Runs the edit over document.xml; a change there moves the caret to the start.
+  long EditMain(const std::function<long(pugi::xml_node)>& edit);
+  // Runs the edit over each header, footer and notes part; changed parts are rewritten.
+  long EditOtherStories(const std::vector<std::string>& kinds,
+                        const std::function<long(pugi::xml_node)>& edit);
+  std::string HyperlinkStyleId() const;
 
   Package package_;
   std::filesystem::path file_;
@@ -131,6 +151,9 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   std::optional<std::pair<long, long>> storedCaret_;
   unsigned nextDrawingId_ = 0;
   bool changed_ = false;
+  bool partsChanged_ = false;
+  bool keepsCaret_ = true;
+  std::function<void(DocxDocument*)> onClose_;
 };
 
 // The main part named by the package's relationships (word/document.xml).

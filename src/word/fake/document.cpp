@@ -69,6 +69,26 @@ void FakeDocument::SetBuiltInDocumentProperty(const word::Text& name, const word
   doc_.properties[name] = value;
 }
 
+long FakeDocument::ReplaceAllText(const word::Text& findText, const word::Text& replacement) {
+  Call("ReplaceAllText", findText, replacement);
+  return static_cast<long>(Number("ReplaceAllText", 0));
+}
+
+long FakeDocument::ScaleFormulas(double factor) {
+  Call("ScaleFormulas", factor);
+  return static_cast<long>(Number("ScaleFormulas", 0));
+}
+
+long FakeDocument::ScalePictures(double factor) {
+  Call("ScalePictures", factor);
+  return static_cast<long>(Number("ScalePictures", 0));
+}
+
+long FakeDocument::AlignFormulas(bool unshift) {
+  Call("AlignFormulas", unshift);
+  return static_cast<long>(Number("AlignFormulas", 0));
+}
+
 void FakeDocument::SaveAs(const word::Text& path) {
   Call("SaveAs", path);
   doc_.fullName = path;
@@ -106,8 +126,8 @@ Document& FakeDocuments::Add(const word::Text& templatePath) {
               templatePath.empty() ? u"Normal.dot" : templatePath);
 }
 
-Document& FakeDocuments::Open(const word::Text& path) {
-  Call("Open", path);
+Document& FakeDocuments::Open(const word::Text& path, bool visible) {
+  Call("Open", path, visible);
   return Make(path, u"Normal.dot");
 }
 

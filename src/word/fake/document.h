@@ -60,11 +60,25 @@ class FakeDocument : public Document, public Node {
   void SetSnapToShapes(bool on) override { Put("SnapToShapes", on); }
   word::Text BuiltInDocumentProperty(const word::Text& name) const override;
   void SetBuiltInDocumentProperty(const word::Text& name, const word::Text& value) override;
+  long DeleteTextHyperlinks() override { return Edit("DeleteTextHyperlinks"); }
+  long DeleteShapeHyperlinks() override { return Edit("DeleteShapeHyperlinks"); }
+  long DeleteHeadersFooters() override { return Edit("DeleteHeadersFooters"); }
+  long DeleteBlankParagraphs() override { return Edit("DeleteBlankParagraphs"); }
+  long ReplaceAllText(const word::Text& findText, const word::Text& replacement) override;
+  long ScaleFormulas(double factor) override;
+  long ScalePictures(double factor) override;
+  long AlignFormulas(bool unshift) override;
   void Save() override { Call("Save"); }
   void SaveAs(const word::Text& path) override;
   void Close(bool saveChanges) override;
 
  private:
+  // Records the call; answers the count scripted for it, else 0.
+  long Edit(const std::string& member) {
+    Call(member);
+    return static_cast<long>(Number(member, 0));
+  }
+
   std::string prefix_;  // before the names of the document's collections
   DocumentState& doc_;
   FakeShapes shapes_;
@@ -78,7 +92,8 @@ class FakeDocuments : public Documents, public Node {
   explicit FakeDocuments(State& state) : Node(state, "Documents") {}
   long Count() const override { return static_cast<long>(st_.documents.size()); }
   Document& Add(const word::Text& templatePath) override;
-  Document& Open(const word::Text& path) override;
+  Document& Open(const word::Text& path, bool visible) override;
+  unsigned IndependentOpens() const override { return 1; }
   // A document the test opens, unrecorded.
   Document& Make(const word::Text& fullName, const word::Text& attachedTemplate);
 

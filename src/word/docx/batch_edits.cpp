@@ -1,0 +1,135 @@
+#include "word/docx/batch_edits.h"
+
+#include <cstring>
+#include <vector>
+
+#include "word/docx/field_runs.h"
+
+namespace word::docx {
+namespace {
+
+bool Named(pugi::xml_node n, const char* name) {
+  return !std::strcmp(n.name(), name);
+}
+
+// Moves the element's children before it and removes it.
+void Unwrap(pugi::xml_node element) {
+  pugi::xml_node parent = element.parent();
+  while (pugi::xml_node child = element.first_child()) parent.insert_move_before(child, element);
+  parent.remove_child(element);
+}
+
+void DropHyperlinkStyle(pugi::xml_node run, const std::string& styleId) {
+  pugi::xml_node style = run.child("w:rPr").child("w:rStyle");
+  if (!styleId.empty() && style && styleId == style.attribute("w:val").value())
+    style.parent().remove_child(style);
+}
+
+bool BlankText(const char* text) {
+  for (const char* p = text; *p;) {
+    if (*p == ' ') {
+      ++p;
+    } else if (!std::strncmp(p, "\xE3\x80\x80", 3)) {  // U+3000, the ideographic blank
+      p += 3;
+    } else {
+      return false;
+    }
+  }
+  return true;
+}
+
+bool BlankRun(pugi::xml_node run) {
+  for (pugi::xml_node c = run.first_child(); c; c = c.next_sibling()) {
+    if (Named(c, "w:rPr") || Named(c, "w:lastRenderedPageBreak")) continue;
+    if (!Named(c, "w:t") || !BlankText(c.text().get())) return false;
+  }
+  return true;
+}
+
+bool BlankParagraph(pugi::xml_node p) {
+  for (pugi::xml_node c = p.first_child(); c; c = c.next_sibling()) {
+    if (Named(c, "w:pPr")) {
+      if (c.child("w:sectPr")) return false;
+    } else if (!Named(c, "w:proofErr") && !(Named(c, "w:r") && BlankRun(c))) {
+      return false;
+    }
+  }
+  return true;
+}
+
+pugi::xml_node PreviousElement(pugi::xml_node n) {
+  for (n = n.previous_sibling(); n && n.type() != pugi::node_element; n = n.previous_sibling()) {
+  }
+  return n;
+}
+
+pugi::xml_node NextElement(pugi::xml_node n) {
+  for (n = n.next_sibling(); n && n.type() != pugi::node_element; n = n.next_sibling()) {
+  }
+  return n;
+}
+
+bool Removable(pugi::xml_node p) {
+  if (!p.next_sibling("w:p")) return false;  // the last paragraph of its container
+  pugi::xml_node before = PreviousElement(p), after = NextElement(p);
+  return !(before && after && Named(before, "w:tbl") && Named(after, "w:tbl"));
+}
+
+}  // namespace
+
+long UnwrapTextHyperlinks(pugi::xml_node root, const std::string& hyperlinkStyleId) {
+  long done = 0;
+  for (const pugi::xpath_node& x : root.select_nodes(".//w:hyperlink")) {
+    for (const pugi::xpath_node& r : x.node().select_nodes(".//w:r"))
+      DropHyperlinkStyle(r.node(), hyperlinkStyleId);
+    Unwrap(x.node());
+    ++done;
+  }
+  for (const FieldRuns& f : OutermostFields(root)) {
+    if (FieldKeyword(f.instruction) != "HYPERLINK") continue;
+    for (pugi::xml_node run : f.runs) DropHyperlinkStyle(run, hyperlinkStyleId);
+    if (f.simple) {
+      Unwrap(f.simple);
+    } else {
+      for (pugi::xml_node mark : f.marks) RemoveFromRun(mark);
+    }
+    ++done;
+  }
+  return done;
+}
+
+long RemoveShapeHyperlinks(pugi::xml_node root) {
+  long done = 0;
+  for (const pugi::xpath_node& x : root.select_nodes(".//a:hlinkClick | .//a:hlinkHover")) {
+    x.parent().remove_child(x.node());
+    ++done;
+  }
+  for (const pugi::xpath_node& x : root.select_nodes(".//*[@href][starts-with(name(), 'v:')]")) {
+    x.node().remove_attribute("href");
+    ++done;
+  }
+  return done;
+}
+
+long RemoveHeaderFooterReferences(pugi::xml_node root) {
+  long done = 0;
+  for (const pugi::xpath_node& x :
+       root.select_nodes(".//w:sectPr/w:headerReference | .//w:sectPr/w:footerReference")) {
+    x.parent().remove_child(x.node());
+    ++done;
+  }
+  return done;
+}
+
+long RemoveBlankParagraphs(pugi::xml_node root) {
+  long done = 0;
+  for (const pugi::xpath_node& x : root.select_nodes(".//w:p")) {
+    pugi::xml_node p = x.node();
+    if (!BlankParagraph(p) || !Removable(p)) continue;
+    p.parent().remove_child(p);
+    ++done;
+  }
+  return done;
+}
+
+}  // namespace word::docx

@@ -1,0 +1,55 @@
+#include "word/docx/field_runs.h"
+
+#include <cctype>
+#include <cstring>
+
+namespace word::docx {
+
+std::vector<FieldRuns> OutermostFields(pugi::xml_node root) {
+  std::vector<FieldRuns> fields;
+  int depth = 0;
+  for (const pugi::xpath_node& x : root.select_nodes(".//w:r | .//w:fldSimple")) {
+    pugi::xml_node run = x.node();
+    if (!std::strcmp(run.name(), "w:fldSimple")) {
+      if (depth > 0) continue;
+      FieldRuns f;
+      f.instruction = run.attribute("w:instr").value();
+      f.simple = run;
+      for (const pugi::xpath_node& r : run.select_nodes(".//w:r")) f.runs.push_back(r.node());
+      fields.push_back(std::move(f));
+      continue;
+    }
+    for (pugi::xml_node c = run.first_child(); c; c = c.next_sibling()) {
+      const std::string name = c.name();
+      const std::string type = c.attribute("w:fldCharType").value();
+      if (name == "w:fldChar" && type == "begin" && depth++ == 0) fields.emplace_back();
+      if (depth == 0) continue;
+      FieldRuns& f = fields.back();
+      if (f.runs.empty() || f.runs.back() != run) f.runs.push_back(run);
+      if (depth == 1 && (name == "w:fldChar" || name == "w:instrText")) f.marks.push_back(c);
+      if (depth == 1 && name == "w:instrText") f.instruction += c.text().get();
+      if (name == "w:fldChar" && type == "end") --depth;
+    }
+  }
+  return fields;
+}
+
+std::string FieldKeyword(const std::string& instruction) {
+  size_t start = instruction.find_first_not_of(" \t");
+  if (start == std::string::npos) return {};
+  size_t end = instruction.find_first_of(" \t\\", start);
+  std::string word = instruction.substr(start, end == std::string::npos ? end : end - start);
+  for (char& c : word) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+  return word;
+}
+
+void RemoveFromRun(pugi::xml_node node) {
+  pugi::xml_node run = node.parent();
+  run.remove_child(node);
+  if (std::strcmp(run.name(), "w:r") != 0) return;
+  for (pugi::xml_node c = run.first_child(); c; c = c.next_sibling())
+    if (std::strcmp(c.name(), "w:rPr") != 0) return;
+  run.parent().remove_child(run);
+}
+
+}  // namespace word::docx
