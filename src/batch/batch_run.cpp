@@ -124,8 +124,8 @@ bool IsOldWordFile(const fs::path& file) {
 }
 
 BatchSummary RunFiles(BatchRun& run, const FileList& files) {
-  const unsigned threads =
-      std::min<unsigned>(run.app.Documents().IndependentOpens(), static_cast<unsigned>(files.size()));
+  const unsigned threads = std::min<unsigned>(run.app.Documents().IndependentOpens(),
+                                              static_cast<unsigned>(files.size()));
   return threads > 1 ? RunParallel(run, files, threads) : RunInline(run, files);
 }
 
@@ -141,7 +141,8 @@ std::u16string SummaryLine(const BatchSummary& s) {
   std::u16string names;
   for (const auto* list : {&s.skipped, &s.failed})
     for (const FileOutcome& o : *list)
-      names += (names.empty() ? u"：" : u"、") + PathText(o.file.filename()) + u"（" + o.why + u"）";
+      names +=
+          (names.empty() ? u"：" : u"、") + PathText(o.file.filename()) + u"（" + o.why + u"）";
   return line + names + u"。";
 }
 

@@ -32,7 +32,8 @@ Conversion Convert(Workspace& space, const fs::path& doc) {
   std::lock_guard<std::mutex> lock(space.mutex);
   const fs::path out = space.folder / "out";
   fs::remove_all(out, error);
-  const std::string command = "soffice -env:UserInstallation=file://" + (space.folder / "profile").string() +
+  const std::string command = "soffice -env:UserInstallation=file://" +
+                              (space.folder / "profile").string() +
                               " --headless --convert-to docx --outdir " + Quoted(out) + " " +
                               Quoted(doc) + " >/dev/null 2>&1";
   fs::path made = out / doc.stem();

@@ -8,9 +8,8 @@ namespace lp::batch {
 namespace {
 
 // The properties a school's or an author's name hides in.
-const char16_t* const kProperties[] = {u"Title",    u"Subject",     u"Author",
-                                       u"Keywords", u"Comments",    u"Last author",
-                                       u"Category", u"Content status"};
+const char16_t* const kProperties[] = {u"Title",    u"Subject",     u"Author",   u"Keywords",
+                                       u"Comments", u"Last author", u"Category", u"Content status"};
 
 void EditProperties(word::Document& doc,
                     const std::function<std::u16string(std::u16string)>& edit) {
@@ -39,7 +38,8 @@ std::vector<std::u16string> SplitKeywords(const std::u16string& text) {
 std::u16string ReplaceAll(std::u16string text, const std::u16string& from,
                           const std::u16string& to) {
   if (from.empty()) return text;
-  for (size_t at = text.find(from); at != std::u16string::npos; at = text.find(from, at + to.size()))
+  for (size_t at = text.find(from); at != std::u16string::npos;
+       at = text.find(from, at + to.size()))
     text.replace(at, from.size(), to);
   return text;
 }

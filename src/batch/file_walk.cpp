@@ -17,7 +17,8 @@ std::u16string NameOf(const fs::path& path) {
 
 bool PassesFilter(const std::u16string& name, const std::u16string& filter) {
   const std::u16string last = filter.size() > 4 ? filter.substr(filter.size() - 4) : filter;
-  return name.size() >= last.size() && name.compare(name.size() - last.size(), last.size(), last) == 0;
+  return name.size() >= last.size() &&
+         name.compare(name.size() - last.size(), last.size(), last) == 0;
 }
 
 std::vector<fs::directory_entry> SortedEntries(const fs::path& folder) {

@@ -6,13 +6,13 @@
 namespace word::com {
 namespace {
 
-const long kHyperlinkRange = 0;        // msoHyperlinkRange
-const long kFieldExpression = 34;      // wdFieldExpression: EQ
-const long kInlineOle = 1;             // wdInlineShapeEmbeddedOLEObject
-const long kInlinePicture = 3;         // wdInlineShapePicture
-const long kBaselineAlignCenter = 1;   // wdBaselineAlignCenter
-const long kReplaceAll = 2;            // wdReplaceAll
-const long kFindStop = 0;              // wdFindStop
+const long kHyperlinkRange = 0;       // msoHyperlinkRange
+const long kFieldExpression = 34;     // wdFieldExpression: EQ
+const long kInlineOle = 1;            // wdInlineShapeEmbeddedOLEObject
+const long kInlinePicture = 3;        // wdInlineShapePicture
+const long kBaselineAlignCenter = 1;  // wdBaselineAlignCenter
+const long kReplaceAll = 2;           // wdReplaceAll
+const long kFindStop = 0;             // wdFindStop
 
 long CountOf(const Dispatch& collection) {
   return collection.Get(L"Count").ToLong();
@@ -115,8 +115,8 @@ long ComDocument::ReplaceAllText(const word::Text& findText, const word::Text& r
          story = ToDispatch(story.Get(L"NextStoryRange"))) {
       Dispatch find = story.Object(L"Find");
       find.Call(L"ClearFormatting");
-      if (find.Call(L"Execute", {findText, true, false, false, false, false, true, kFindStop,
-                                 false, replacement, kReplaceAll})
+      if (find.Call(L"Execute", {findText, true, false, false, false, false, true, kFindStop, false,
+                                 replacement, kReplaceAll})
               .ToBool())
         ++done;
     }

@@ -272,13 +272,25 @@ pugi::xml_node DocxDocument::CoreProperties() const {
     auto bytes = package_.Read("docProps/core.xml");
     if (!bytes || !ParseXml(*bytes, coreXml_)) coreXml_.reset();
   }
-  return coreXml_.child("cp:coreProperties");
+  pugi::xml_node root = coreXml_.child("cp:coreProperties");
+  return root ? root : coreXml_.child("coreProperties");  // the namespace as the default one
+}
+
+// The property's element, written with its prefix or, in the default
+// namespace, without.
+static pugi::xml_node CoreChild(pugi::xml_node root, const char* element) {
+  if (pugi::xml_node e = root.child(element)) return e;
+  const std::string local = std::strchr(element, ':') + 1;
+  std::string defaultNs = root.attribute("xmlns").value();
+  bool core = std::string(element).rfind("cp:", 0) == 0;
+  return core && defaultNs == root.attribute("xmlns:cp").value() ? root.child(local.c_str())
+                                                                 : pugi::xml_node();
 }
 
 Text DocxDocument::BuiltInDocumentProperty(const Text& name) const {
   const char* element = CoreElement(name);
   if (!element) throw InvalidArgument();
-  return lp::FromUtf8(CoreProperties().child(element).text().get());
+  return lp::FromUtf8(CoreChild(CoreProperties(), element).text().get());
 }
 
 void DocxDocument::SetBuiltInDocumentProperty(const Text& name, const Text& value) {
@@ -286,7 +298,7 @@ void DocxDocument::SetBuiltInDocumentProperty(const Text& name, const Text& valu
   if (!element) throw InvalidArgument();
   pugi::xml_node root = CoreProperties();
   if (!root) return;  // a package without core properties keeps none
-  pugi::xml_node e = root.child(element);
+  pugi::xml_node e = CoreChild(root, element);
   if (!e) e = root.append_child(element);
   e.text().set(lp::ToUtf8(value).c_str());
   coreChanged_ = true;

@@ -10,9 +10,9 @@
 namespace word::docx {
 
 struct FieldRuns {
-  std::string instruction;         // the code of the field itself, nested fields left out
-  std::vector<pugi::xml_node> runs;  // begin to end, nested fields' runs included
-  pugi::xml_node simple;           // the w:fldSimple of a simple field
+  std::string instruction;            // the code of the field itself, nested fields left out
+  std::vector<pugi::xml_node> runs;   // begin to end, nested fields' runs included
+  pugi::xml_node simple;              // the w:fldSimple of a simple field
   std::vector<pugi::xml_node> marks;  // the field's own fldChar and instrText elements
 };
 
