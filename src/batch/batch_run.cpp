@@ -34,24 +34,26 @@ void WorkOn(BatchRun& run, const fs::path& file) {
 }
 
 FileOutcome ProcessFile(BatchRun& run, const fs::path& file) {
-  FileOutcome out{file, FileResult::kDone, {}};
+  FileOutcome out{file, FileResult::kDone, {}, {}};
   try {
     if (IsOldWordFile(file) && run.convert) {
       Conversion c = run.convert(file);
-      if (!c.docx) return {file, FileResult::kSkipped, c.why};
-      WorkOn(run, *c.docx);
+      if (!c.docx) return {file, FileResult::kSkipped, c.why, {}};
+      out.made = *c.docx;
       out.result = FileResult::kConverted;
+      WorkOn(run, *c.docx);
       return out;
     }
     WorkOn(run, file);
   } catch (const std::exception& e) {
-    return {file, FileResult::kFailed, Why(e)};
+    return {file, FileResult::kFailed, Why(e), out.made};
   }
   return out;
 }
 
 void Count(BatchSummary& s, const FileOutcome& o) {
   ++s.walked;
+  if (!o.made.empty()) s.made.push_back(o.made);
   if (o.result == FileResult::kConverted) ++s.converted;
   if (o.result == FileResult::kSkipped) s.skipped.push_back(o);
   if (o.result == FileResult::kFailed) s.failed.push_back(o);

@@ -19,12 +19,14 @@ enum class FileResult { kDone, kConverted, kSkipped, kFailed };
 struct FileOutcome {
   std::filesystem::path file;
   FileResult result = FileResult::kDone;
-  std::u16string why;  // for a skipped or failed file
+  std::u16string why;          // for a skipped or failed file
+  std::filesystem::path made;  // the .docx converted from an old file
 };
 
 struct BatchSummary {
   int walked = 0;  // files the run went through, whatever became of them
   int converted = 0;
+  FileList made;  // the .docx files made from old files
   std::vector<FileOutcome> skipped, failed;
   bool cancelled = false;
 };

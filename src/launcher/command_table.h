@@ -51,7 +51,7 @@ inline constexpr std::array<CommandRow, 41> kCommandTable{{
     {u"sxt", How::kModeless, u"frmSXT", true},
     {u"sector", How::kModeless, u"frmSector", true},
     {u"fangge", How::kModeless, u"frmFangGe", false},
-    {u"bat", How::kModeless, u"frmWordBat", false},
+    {u"bat", How::kModeless, u"frmWordBat", true},
     {u"interval", How::kModeless, u"frmInterval", false},
     {u"fcz", How::kRoutine, {}, false},
     {u"xl", How::kRoutine, {}, false},

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "batch/frmWordBat.h"
 #include "charts/frmSXT.h"
 #include "charts/frmZFT.h"
 #include "figures/frmSector.h"
@@ -26,6 +27,7 @@ constexpr std::array kRoutines{
 };
 
 const std::array kForms{
+    FormBinding{u"frmWordBat", &ui::MakeForm<frmWordBat>},
     FormBinding{u"frmFactoring", &ui::MakeForm<frmFactoring>},
     FormBinding{u"frmGS", &ui::MakeForm<frmGS>},
     FormBinding{u"frmGraph", &ui::MakeForm<frmGraph>},

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSpinBox>
+#include <QTabWidget>
 #include <QTextEdit>
 
 namespace lp::ui {
@@ -48,6 +49,8 @@ bool SetControl(QWidget& w, const QString& value) {
     d->setValue(value.toDouble());
   } else if (auto* bar = qobject_cast<QAbstractSlider*>(&w)) {
     bar->setValue(value.toInt());
+  } else if (auto* tabs = qobject_cast<QTabWidget*>(&w)) {
+    tabs->setCurrentIndex(value.toInt());
   } else if (auto* l = qobject_cast<QLabel*>(&w)) {
     l->setText(value);
   } else {
