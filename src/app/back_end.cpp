@@ -26,7 +26,7 @@ class NoWord : public BackEnd, public WordConnector {
 class DocxFile : public BackEnd, public WordConnector {
  public:
   explicit DocxFile(const std::string& path)
-      : app_(word::docx::OpenDocx(std::filesystem::u8path(path))) {
+      : app_(word::docx::OpenDocxForEditing(std::filesystem::u8path(path))) {
     // TeX typed for the formula tools becomes a native equation.
     app_->SetTexConverter([](const std::u16string& tex) { return LatexToOmml(tex); });
   }

@@ -4,15 +4,23 @@
 
 #include <cmath>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 
 #include "formula/commands.h"
 #include "formula/insert.h"
 #include "formula/latex_to_omml.h"
 #include "runtime/recording_prompt.h"
 #include "word/docx/docx_application.h"
+#include "word/docx/package.h"
 
 namespace lp {
 namespace {
+
+std::string ReadBytes(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  return std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+}
 
 class DocxGs : public ::testing::Test {
  protected:
@@ -65,6 +73,30 @@ TEST_F(DocxGs, FieldWithShrunkScriptAndFonts) {
   EXPECT_EQ(x->Font().Name(), u"Times New Roman");
   EXPECT_EQ(x->Font().Italic(), word::wdTrue);
   EXPECT_EQ(plain->Font().Italic(), word::wdFalse);
+}
+
+// What replaces the notation takes the format of its first character, as in
+// Word: the formula of a 24-pt line is 24 pt, the one after a bold "AB " is not bold.
+TEST_F(DocxGs, FieldTakesTheFormatOfTheNotationItReplaces) {
+  word::Selection& selection = app->Selection();
+  selection.Font().SetBold(word::wdTrue);
+  selection.TypeText(u"AB ");
+  selection.Font().SetBold(word::wdFalse);
+  selection.Font().SetSize(24);
+  Gs(u"x^2/2");
+  word::Fields& fields = ShownFields();
+  ASSERT_EQ(fields.Count(), 1);
+  auto code = fields.Item(1)->Code();
+  word::Characters& chars = code->Characters();
+  EXPECT_EQ(chars.Item(8)->Font().Bold(), word::wdFalse);
+  EXPECT_EQ(chars.Item(15)->Font().Size(), 24.0f);
+  EXPECT_EQ(chars.Item(12)->Font().Size(), std::floor(0.7f * 24));
+  app->ActiveDocument().Save();
+  app.reset();
+  std::string xml =
+      word::docx::Package::FromBytes(ReadBytes(path)).Read("word/document.xml").value();
+  EXPECT_NE(xml.find("<w:sz w:val=\"48\"/>"), std::string::npos);
+  EXPECT_EQ(xml.find("<w:sz w:val=\"20\"/>"), std::string::npos) << "a 10-pt run was typed";
 }
 
 TEST_F(DocxGs, SemicolonSplitsIntoFieldsWithBlanks) {

@@ -77,6 +77,27 @@ TEST_F(TextModel, FontTogglesContinueWithTheSelectionsFormat) {
   EXPECT_EQ(doc.Range(1, 2)->Font().Bold(), wdFalse);
 }
 
+TEST_F(TextModel, ReplacedTextTakesTheFormatOfItsFirstCharacter) {
+  sel.Font().SetBold(wdTrue);
+  sel.TypeText(u"AB ");
+  sel.Font().SetBold(wdFalse);
+  sel.Font().SetSuperscript(wdTrue);
+  sel.TypeText(u"23");
+  sel.Font().SetSuperscript(wdFalse);
+  sel.TypeText(u"x");
+  sel.MoveLeft(wdCharacter, 3, wdExtend);  // the superscript "23" and "x"
+  sel.TypeText(u"5");
+  EXPECT_EQ(doc.Content()->Text(), u"AB 5\r");
+  EXPECT_EQ(doc.Range(3, 4)->Font().Superscript(), wdTrue);
+  EXPECT_EQ(doc.Range(3, 4)->Font().Bold(), wdFalse);
+
+  doc.Range(3, 4)->SetText(u"67");
+  EXPECT_EQ(doc.Range(3, 5)->Font().Superscript(), wdTrue);
+  auto bold = doc.Range(0, 2);
+  bold->SetText(u"C");
+  EXPECT_EQ(doc.Range(0, 1)->Font().Bold(), wdTrue);
+}
+
 TEST_F(TextModel, NewDocumentHasChineseDefaults) {
   EXPECT_EQ(sel.Font().Name(), u"Times New Roman");
   EXPECT_EQ(sel.Font().NameFarEast(), u"宋体");

@@ -175,4 +175,18 @@ void DocumentSettings::SetAttachedTemplate(const std::string& path) {
   Store();
 }
 
+bool DocumentSettings::TracksRevisions() {
+  Load();
+  return IsOn("w:trackRevisions");
+}
+
+std::string DocumentSettings::EnforcedProtection() {
+  Load();
+  pugi::xml_node protection = Root().child("w:documentProtection");
+  const std::string enforced = protection.attribute("w:enforcement").value();
+  if (enforced != "1" && enforced != "true" && enforced != "on") return {};
+  const std::string edit = protection.attribute("w:edit").value();
+  return edit == "none" ? std::string() : edit;
+}
+
 }  // namespace word::docx

@@ -22,6 +22,12 @@ class DocumentSettings {
   std::string AttachedTemplate();
   void SetAttachedTemplate(const std::string& path);
 
+  // Whether edits are recorded as revisions (w:trackRevisions).
+  bool TracksRevisions();
+  // The kind of editing protection enforced ("readOnly", "comments", "forms",
+  // "trackedChanges"), or empty when the document is open for editing.
+  std::string EnforcedProtection();
+
   // Whether anything changed since the last save.
   bool Changed() const { return changed_; }
   void Saved() { changed_ = false; }

@@ -218,4 +218,20 @@ std::unique_ptr<DocxApplication> OpenDocx(const std::filesystem::path& file) {
   return std::make_unique<DocxApplication>(LoadDocx(file));
 }
 
+// Word's own words for an edit its protection forbids.
+const char* const kProtected = "此修改不被允许，因为选定区域已被锁定。";
+
+std::unique_ptr<DocxApplication> OpenDocxForEditing(const std::filesystem::path& file) {
+  auto lock = std::make_unique<DocumentLock>(file);
+  CheckWritable(ResolveLinks(file));
+  std::unique_ptr<DocxApplication> app = OpenDocx(file);
+  const std::string protection = app->Document().EnforcedProtection();
+  // Protection for tracked changes allows editing: every edit is tracked anyway.
+  if (!protection.empty() && protection != "trackedChanges")
+    throw DocxFileError(std::string(kProtected) + "（文档受保护：" +
+                        reinterpret_cast<const char*>(file.u8string().c_str()) + "）");
+  app->Hold(std::move(lock));
+  return app;
+}
+
 }  // namespace word::docx

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "word/api.h"
+#include "word/docx/document_file.h"
 #include "word/docx/docx_error.h"
 
 namespace word::docx {
@@ -46,10 +47,13 @@ class DocxApplication : public word::Application {
   // Stores the caret in the file and saves it atomically if anything changed.
   bool SaveIfChanged();
   DocxDocument& Document() { return *document_; }
+  // Keeps other runs on the document waiting until this one ends.
+  void Hold(std::unique_ptr<DocumentLock> lock) { lock_ = std::move(lock); }
 
  private:
   void TexToggle();
 
+  std::unique_ptr<DocumentLock> lock_;
   std::unique_ptr<DocxDocument> document_;
   TexConverter texConverter_;
   struct Parts;
@@ -62,6 +66,11 @@ class DocxApplication : public word::Application {
 std::unique_ptr<DocxApplication> OpenDocx(const std::filesystem::path& file);
 // An existing .docx file as a document; throws DocxFileError as OpenDocx does.
 std::unique_ptr<DocxDocument> LoadDocx(const std::filesystem::path& file);
+
+// OpenDocx for a run that may change the document: waits for other runs on
+// it, then refuses (DocxFileError) a file that cannot be written or is held
+// open elsewhere, and a document protected against editing.
+std::unique_ptr<DocxApplication> OpenDocxForEditing(const std::filesystem::path& file);
 
 // Replaces the range with an equation given as OMML (an m:oMath element).
 // Throws ComError if the XML is not an equation.

@@ -92,6 +92,14 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   bool ShowsCode(pugi::xml_node beginFldChar) const override;
   void StoryChanged() override { changed_ = true; }
   void Removing(Story& story, long pos, pugi::xml_node node) override;
+  bool TracksRevisions() override { return tracksRevisions_; }
+  void StampRevision(pugi::xml_node change) override;
+  std::string RevisionAuthor() const override { return revisionAuthor_; }
+
+  // The name revisions are recorded under (UTF-8).
+  void SetRevisionAuthor(std::string name) { revisionAuthor_ = std::move(name); }
+  // The editing protection the document enforces; empty when none.
+  std::string EnforcedProtection() { return settings_->EnforcedProtection(); }
 
   DocxSelection& Selection() { return *selection_; }
   Story& MainStory() { return *main_; }
@@ -112,12 +120,13 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   // A document opened by Documents.Open keeps no caret in its file, and
   // leaves its collection when closed.
   void SetOpenedBy(std::function<void(DocxDocument*)> onClose);
+  // The caret as the hidden bookmark `_lpCaret` of the main story, and its removal.
+  void StoreCaret();
+  void RemoveCaretMarkers();
 
  private:
   void LoadStyles();
   void RestoreCaret();
-  void StoreCaret();
-  void RemoveCaretMarkers();
   pugi::xml_node CoreProperties() const;
   bool Dirty() const;
   void WriteFile(bool always);
@@ -150,6 +159,9 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   LiveAnchors liveAnchors_;
   std::optional<std::pair<long, long>> storedCaret_;
   unsigned nextDrawingId_ = 0;
+  bool tracksRevisions_ = false;
+  std::string revisionAuthor_;
+  long nextRevisionId_ = -1;
   bool changed_ = false;
   bool partsChanged_ = false;
   bool keepsCaret_ = true;

@@ -6,8 +6,9 @@
 #include <cstdio>
 #include <fstream>
 #include <memory>
-#include <random>
+#include <stdexcept>
 
+#include "word/docx/document_file.h"
 #include "word/docx/docx_error.h"
 
 namespace word::docx {
@@ -50,31 +51,24 @@ std::string ReadEntry(zip_t* z, zip_int64_t index) {
   return data;
 }
 
-std::filesystem::path TemporaryBeside(const std::filesystem::path& file) {
-  std::random_device rd;
-  auto name = "." + file.filename().string() + ".tmp" + std::to_string(rd() % 1000000);
-  return file.parent_path() / name;
-}
-
-void Check(bool ok, zip_t* z) {
-  if (ok) return;
-  std::string why = z ? zip_strerror(z) : "zip";
-  throw DocxFileError("无法保存文档：" + why);
+// A part libzip refuses leaves nothing behind: the error goes up to SaveTo.
+void Check(bool ok) {
+  if (!ok) throw std::runtime_error("zip");
 }
 
 void PutPart(zip_t* z, const std::string& name, const std::string& bytes) {
   zip_source_t* src = zip_source_buffer(z, bytes.data(), bytes.size(), 0);
-  Check(src != nullptr, z);
+  Check(src != nullptr);
   zip_int64_t index = zip_name_locate(z, name.c_str(), ZIP_FL_NOCASE);
   if (index >= 0) {
     if (zip_file_replace(z, index, src, 0) != 0) {
       zip_source_free(src);
-      Check(false, z);
+      Check(false);
     }
   } else {
     index = zip_file_add(z, name.c_str(), src, ZIP_FL_ENC_UTF_8);
     if (index < 0) zip_source_free(src);
-    Check(index >= 0, z);
+    Check(index >= 0);
   }
   // The fastest level: shape-heavy parts repeat themselves so much that the
   // default level spends most of a save searching matches for little gain.
@@ -125,37 +119,37 @@ void Package::Write(const std::string& part, std::string bytes) {
 }
 
 void Package::SaveTo(const std::filesystem::path& file) const {
-  const std::filesystem::path temp = TemporaryBeside(file);
+  const std::filesystem::path target = ResolveLinks(file);
+  const std::filesystem::path temp = BuildPathFor(target);
+  if (!WriteZip(temp)) {
+    std::error_code error;
+    std::filesystem::remove(temp, error);
+    throw DocxFileError(CannotSave(target));
+  }
+  ReplaceFile(temp, target);
+}
+
+bool Package::WriteZip(const std::filesystem::path& temp) const {
   if (!original_.empty()) {
     std::ofstream out(temp, std::ios::binary);
     out.write(original_.data(), static_cast<std::streamsize>(original_.size()));
-    if (!out.flush()) {
-      out.close();
-      std::filesystem::remove(temp);
-      throw DocxFileError("无法保存文档：无法写入临时文件。");
-    }
+    if (!out.flush()) return false;
   }
   int error = 0;
   zip_t* z =
       zip_open(temp.string().c_str(), original_.empty() ? ZIP_CREATE | ZIP_TRUNCATE : 0, &error);
-  if (!z) {
-    std::filesystem::remove(temp);
-    throw DocxFileError("无法保存文档：无法创建临时文件。");
-  }
+  if (!z) return false;
   try {
     for (const auto& [name, bytes] : written_) PutPart(z, name, bytes);
-  } catch (...) {
+  } catch (const std::runtime_error&) {
     zip_discard(z);
-    std::filesystem::remove(temp);
-    throw;
+    return false;
   }
   if (zip_close(z) != 0) {
-    std::string why = zip_strerror(z);
     zip_discard(z);
-    std::filesystem::remove(temp);
-    throw DocxFileError("无法保存文档：" + why);
+    return false;
   }
-  std::filesystem::rename(temp, file);
+  return true;
 }
 
 std::string RelsPartOf(const std::string& part) {

@@ -23,10 +23,13 @@ class Package {
   void Write(const std::string& part, std::string bytes);
   bool Written(const std::string& part) const { return written_.count(part) > 0; }
 
-  // Writes the package to a temporary file beside `file` and renames it over.
+  // Writes the package to a temporary file and puts it in the place of `file`
+  // (see ReplaceFile). Throws DocxFileError; the file is then as it was.
   void SaveTo(const std::filesystem::path& file) const;
 
  private:
+  bool WriteZip(const std::filesystem::path& temp) const;
+
   std::string original_;  // the file's bytes; empty for a new package
   std::vector<std::string> names_;
   std::map<std::string, std::string> written_;

@@ -24,7 +24,7 @@ FieldSpan SpanOf(Story& story, pugi::xml_node begin) {
 
 pugi::xml_node AddField(DocxDocument& doc, Story& story, long start, long end, const Text& code) {
   pugi::xml_document keep;
-  if (pugi::xml_node source = story.FormatSourceAt(start)) keep.append_copy(source);
+  if (pugi::xml_node source = story.ReplacementFormat(start, end)) keep.append_copy(source);
   pugi::xml_node rPr = keep.first_child();
   pugi::xml_document proto;
   if (code.empty() && start < end) {

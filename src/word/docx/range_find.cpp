@@ -69,8 +69,7 @@ void RangeFind::Replace(const Hit& hit) {
     }
   }
   pugi::xml_document keep;
-  pugi::xml_node first = story.Index().segments[story.Index().SegmentAt(hit.start)].node;
-  if (pugi::xml_node rPr = first.parent().child("w:rPr")) keep.append_copy(rPr);
+  if (pugi::xml_node rPr = story.ReplacementFormat(hit.start, hit.end)) keep.append_copy(rPr);
   story.Delete(hit.start, hit.end);
   story.InsertText(hit.start, text, TypingFormat{keep.first_child(), format});
 }

@@ -34,9 +34,11 @@ class RangeImpl : public Base, public PlaceHolder {
   word::Text Text() const override { return place_.story->Index().Text(Start(), End(), false); }
   void SetText(const word::Text& text) override {
     long start = Start();
+    pugi::xml_document keep;  // the format survives deleting what it came from
+    if (pugi::xml_node source = place_.story->ReplacementFormat(start, End()))
+      keep.append_copy(source);
     place_.story->Delete(start, End());
-    TypingFormat format{place_.story->FormatSourceAt(start), {}};
-    place_.story->InsertText(start, text, format);
+    place_.story->InsertText(start, text, TypingFormat{keep.first_child(), {}});
     place_.span->start = start;
     place_.span->end = start + static_cast<long>(text.size());
   }

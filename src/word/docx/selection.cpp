@@ -63,7 +63,8 @@ void DocxSelection::ReplaceSelectionForTyping() {
 
 void DocxSelection::TypeText(const word::Text& text) {
   pugi::xml_document keep;  // the format survives deleting what it came from
-  if (pugi::xml_node source = place_.story->FormatSourceAt(Start())) keep.append_copy(source);
+  if (pugi::xml_node source = place_.story->ReplacementFormat(Start(), End()))
+    keep.append_copy(source);
   ReplaceSelectionForTyping();
   long at = Start();
   place_.story->InsertText(at, text, TypingFormat{keep.first_child(), pending_});
@@ -155,14 +156,15 @@ long DocxSelection::MoveRight(WdUnits unit, long count, WdMovementType extend) {
 }
 
 void DocxSelection::InsertSymbol(long characterNumber, const word::Text& font, bool unicode) {
+  pugi::xml_document proto;
+  pugi::xml_node run = proto.append_child("w:r");
+  if (pugi::xml_node source = place_.story->ReplacementFormat(Start(), End()))
+    run.append_copy(source);
   ReplaceSelectionForTyping();
   long code = characterNumber & 0xFFFF;
   if (!unicode && code < 0x100) code += 0xF000;  // a symbol font's own code page
   char hex[8];
   std::snprintf(hex, sizeof hex, "%04lX", code);
-  pugi::xml_document proto;
-  pugi::xml_node run = proto.append_child("w:r");
-  if (pugi::xml_node source = place_.story->FormatSourceAt(Start())) run.append_copy(source);
   pugi::xml_node sym = run.append_child("w:sym");
   sym.append_attribute("w:font") = lp::ToUtf8(font).c_str();
   sym.append_attribute("w:char") = hex;

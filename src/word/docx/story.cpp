@@ -92,6 +92,56 @@ pugi::xml_node LiftSplit(pugi::xml_node node, pugi::xml_node paragraph) {
   return node;
 }
 
+bool IsDeletion(pugi::xml_node n) {
+  return Is(n, "w:del") || Is(n, "w:moveFrom");
+}
+
+bool IsInsertion(pugi::xml_node n) {
+  return Is(n, "w:ins") || Is(n, "w:moveTo");
+}
+
+// The outermost deletion (w:del, w:moveFrom) holding a run-level node, and
+// with `insertionsToo` the outermost insertion: a tracked insertion goes
+// beside other revisions, never into them.
+pugi::xml_node RevisionAround(pugi::xml_node node, bool insertionsToo = false) {
+  pugi::xml_node found;
+  for (pugi::xml_node n = node.parent(); n && !Is(n, "w:p"); n = n.parent())
+    if (IsDeletion(n) || (insertionsToo && IsInsertion(n))) found = n;
+  return found;
+}
+
+// The run, or the node itself for content that stands outside runs.
+pugi::xml_node RunLevelOf(const Segment& s) {
+  return Is(s.node.parent(), "w:r") ? s.node.parent() : s.node;
+}
+
+// Deleted text is kept as w:delText (w:delInstrText for field code).
+void MarkTextDeleted(pugi::xml_node run) {
+  for (pugi::xml_node n : run.children()) {
+    if (Is(n, "w:t")) n.set_name("w:delText");
+    if (Is(n, "w:instrText")) n.set_name("w:delInstrText");
+  }
+}
+
+// Splits the containers between a run-level node and `stop`, so that the
+// child of `stop` returned starts where the node starts.
+pugi::xml_node LiftSplitBefore(pugi::xml_node node, pugi::xml_node stop) {
+  while (node && node.parent() != stop) {
+    pugi::xml_node parent = node.parent();
+    if (HasContentBefore(node)) {
+      pugi::xml_node left = parent.parent().insert_child_before(parent.name(), parent);
+      for (pugi::xml_attribute a : parent.attributes()) left.append_attribute(a.name()) = a.value();
+      for (pugi::xml_node n = parent.first_child(); n != node;) {
+        pugi::xml_node next = n.next_sibling();
+        left.append_move(n);
+        n = next;
+      }
+    }
+    node = parent;
+  }
+  return node;
+}
+
 // The properties typed text takes: the source's, less change tracking, with
 // the overlay written over them.
 void TypedRunProperties(const TypingFormat& format, pugi::xml_node rPr) {
@@ -211,34 +261,61 @@ pugi::xml_node Story::SplitAfter(long pos) {
 }
 
 pugi::xml_node Story::InsertInline(long pos, const pugi::xml_node& prototype, long positions) {
-  const StoryIndex& ix = Index();
-  pos = std::clamp(pos, 0L, std::max(0L, ix.length - 1));
+  pos = std::clamp(pos, 0L, std::max(0L, Index().length - 1));
   pugi::xml_node placed;
-  if (ix.length == 0) {
-    pugi::xml_node sectPr = container_.child("w:sectPr");
-    pugi::xml_node p =
-        sectPr ? container_.insert_child_before("w:p", sectPr) : container_.append_child("w:p");
-    placed = p.append_copy(prototype);
-  } else if (pos > 0 && !IsMark(ix.segments[ix.SegmentAt(pos - 1)].kind)) {
-    pugi::xml_node after = SplitAfter(pos - 1);
-    placed = after.parent().insert_copy_after(prototype, after);
+  if (Is(prototype, "w:r") && owner_.TracksRevisions()) {
+    pugi::xml_document wrapper;
+    pugi::xml_node ins = wrapper.append_child("w:ins");
+    owner_.StampRevision(ins);
+    ins.append_copy(prototype);
+    placed = PlaceInline(pos, ins, true).first_child();
   } else {
-    const Segment& s = ix.segments[ix.SegmentAt(pos)];
-    if (s.kind == SegKind::RowEnd) throw CommandNotValid();
-    if (IsMark(s.kind)) {
-      pugi::xml_node paragraph = s.node;
-      placed = paragraph.append_copy(prototype);
-    } else {
-      pugi::xml_node before = SplitBefore(pos);
-      placed = before.parent().insert_copy_before(prototype, before);
-    }
+    placed = PlaceInline(pos, prototype, false);
   }
   Changed();
   if (positions > 0) AdjustInsert(pos, positions);
   return placed;
 }
 
+pugi::xml_node Story::PlaceInline(long pos, const pugi::xml_node& prototype, bool tracked) {
+  const StoryIndex& ix = Index();
+  if (ix.length == 0) {
+    pugi::xml_node sectPr = container_.child("w:sectPr");
+    pugi::xml_node p =
+        sectPr ? container_.insert_child_before("w:p", sectPr) : container_.append_child("w:p");
+    return p.append_copy(prototype);
+  }
+  if (pos > 0 && !IsMark(ix.segments[ix.SegmentAt(pos - 1)].kind)) {
+    pugi::xml_node after = SplitAfter(pos - 1);
+    // Nothing typed may land in a tracked deletion: it goes behind it.
+    if (pugi::xml_node revision = RevisionAround(after, tracked))
+      after = LiftSplit(after, revision.parent());
+    return after.parent().insert_copy_after(prototype, after);
+  }
+  const Segment& s = ix.segments[ix.SegmentAt(pos)];
+  if (s.kind == SegKind::RowEnd) throw CommandNotValid();
+  if (IsMark(s.kind)) {
+    pugi::xml_node paragraph = s.node;
+    return paragraph.append_copy(prototype);
+  }
+  pugi::xml_node before = SplitBefore(pos);
+  if (pugi::xml_node revision = RevisionAround(before, tracked))
+    before = LiftSplitBefore(before, revision.parent());
+  return before.parent().insert_copy_before(prototype, before);
+}
+
 pugi::xml_node Story::InsertMarker(long pos, const char* name) {
+  const StoryIndex& ix = Index();
+  pos = std::clamp(pos, 0L, std::max(0L, ix.length - 1));
+  const bool afterMark = pos == 0 || IsMark(ix.segments[ix.SegmentAt(pos - 1)].kind);
+  const Segment here = ix.segments.empty() ? Segment() : ix.segments[ix.SegmentAt(pos)];
+  if (afterMark && here.kind == SegKind::RowEnd) {
+    // A row may hold bookmarks behind its last cell: the end-of-row mark's place.
+    pugi::xml_node row = here.node;
+    pugi::xml_node marker = row.append_child(name);
+    Changed();
+    return marker;
+  }
   pugi::xml_document scratch;
   scratch.append_child(name);
   return InsertInline(pos, scratch.first_child(), 0);
@@ -280,19 +357,30 @@ void Story::RemoveRunLevel(pugi::xml_node node) {
   if (start >= 0) AdjustDelete(start, end);
 }
 
+namespace {
+
+pugi::xml_node RunPropertiesOfSegment(const Segment& s) {
+  if (s.kind == SegKind::RowEnd) return {};
+  if (IsMark(s.kind)) return s.node.child("w:pPr").child("w:rPr");
+  pugi::xml_node run = Is(s.node.parent(), "w:r") ? s.node.parent() : pugi::xml_node();
+  return run ? run.child("w:rPr") : pugi::xml_node();
+}
+
+}  // namespace
+
 pugi::xml_node Story::FormatSourceAt(long pos) {
   const StoryIndex& ix = Index();
   if (ix.length == 0) return {};
   pos = std::clamp(pos, 0L, ix.length - 1);
-  auto runProps = [](const Segment& s) {
-    pugi::xml_node run = Is(s.node.parent(), "w:r") ? s.node.parent() : pugi::xml_node();
-    return run ? run.child("w:rPr") : pugi::xml_node();
-  };
   if (pos > 0 && !IsMark(ix.segments[ix.SegmentAt(pos - 1)].kind))
-    return runProps(ix.segments[ix.SegmentAt(pos - 1)]);
-  const Segment& here = ix.segments[ix.SegmentAt(pos)];
-  if (!IsMark(here.kind)) return runProps(here);
-  return here.kind == SegKind::RowEnd ? pugi::xml_node() : here.node.child("w:pPr").child("w:rPr");
+    return RunPropertiesOfSegment(ix.segments[ix.SegmentAt(pos - 1)]);
+  return RunPropertiesOfSegment(ix.segments[ix.SegmentAt(pos)]);
+}
+
+pugi::xml_node Story::ReplacementFormat(long start, long end) {
+  const StoryIndex& ix = Index();
+  if (start >= end || start < 0 || start >= ix.length) return FormatSourceAt(start);
+  return RunPropertiesOfSegment(ix.segments[ix.SegmentAt(start)]);
 }
 
 void Story::InsertPiece(long pos, const std::u16string& piece, pugi::xml_node rPr, bool forceCode) {
@@ -300,9 +388,7 @@ void Story::InsertPiece(long pos, const std::u16string& piece, pugi::xml_node rP
   const Segment* prev = pos > 0 ? &ix.segments[ix.SegmentAt(pos - 1)] : nullptr;
   const char* element = forceCode || (prev && prev->codeAfter) ? "w:instrText" : "w:t";
   bool plain = piece.find_first_of(u"\t\v") == std::u16string::npos;
-  // Text typed behind text of the same format joins its element.
-  if (plain && prev && Is(prev->node, element) && Is(prev->node.parent(), "w:r") &&
-      Key(prev->node.parent().child("w:rPr")) == Key(rPr)) {
+  if (plain && JoinsText(prev, element, rPr)) {
     std::u16string t = NodeText(prev->node);
     t.insert(static_cast<size_t>(pos - prev->pos), piece);
     SetNodeText(prev->node, t);
@@ -315,6 +401,20 @@ void Story::InsertPiece(long pos, const std::u16string& piece, pugi::xml_node rP
     InsertInline(pos, run, 0);
   }
   AdjustInsert(pos, static_cast<long>(piece.size()));
+}
+
+// Text typed behind text of the same format joins its element; with revisions
+// tracked, only the author's own insertion.
+bool Story::JoinsText(const Segment* prev, const char* element, pugi::xml_node rPr) {
+  if (!prev || !Is(prev->node, element) || !Is(prev->node.parent(), "w:r")) return false;
+  pugi::xml_node run = prev->node.parent();
+  if (Key(run.child("w:rPr")) != Key(rPr)) return false;
+  return !owner_.TracksRevisions() || OwnInsertion(run);
+}
+
+bool Story::OwnInsertion(pugi::xml_node runLevel) const {
+  pugi::xml_node parent = runLevel.parent();
+  return Is(parent, "w:ins") && parent.attribute("w:author").value() == owner_.RevisionAuthor();
 }
 
 void Story::InsertText(long pos, const std::u16string& text, const TypingFormat& format,
@@ -417,6 +517,14 @@ bool Story::MergeParagraphAt(const Segment& mark) {
 }
 
 void Story::Delete(long start, long end) {
+  if (owner_.TracksRevisions()) {
+    TrackDeletion(start, end);
+  } else {
+    DeleteSegments(start, end, false);
+  }
+}
+
+void Story::DeleteSegments(long start, long end, bool onlyOwnInsertions) {
   const StoryIndex& ix = Index();
   start = std::max(0L, start);
   end = std::min(end, ix.length);
@@ -428,6 +536,7 @@ void Story::Delete(long start, long end) {
     const Segment& s = *it;
     long from = std::max(start, s.pos), to = std::min(end, s.pos + s.length);
     if (s.kind == SegKind::CellMark || s.kind == SegKind::RowEnd) continue;
+    if (onlyOwnInsertions && (IsMark(s.kind) || !OwnInsertion(RunLevelOf(s)))) continue;
     if (Is(s.node, "w:fldSimple")) {
       DeleteSimpleField(s, start, end);
       continue;
@@ -440,6 +549,37 @@ void Story::Delete(long start, long end) {
     AdjustDelete(from, to);
   }
   Changed();
+}
+
+void Story::TrackDeletion(long start, long end) {
+  start = std::max(0L, start);
+  end = std::min(end, Length());
+  if (start >= end) return;
+  SplitBefore(start);
+  SplitAfter(end - 1);
+  const StoryIndex& ix = Index();
+  for (size_t i = ix.SegmentAt(start); i < ix.segments.size() && ix.segments[i].pos < end; ++i) {
+    const Segment& s = ix.segments[i];
+    if (s.kind == SegKind::ParaMark) {
+      pugi::xml_node paragraph = s.node;
+      pugi::xml_node pPr = paragraph.child("w:pPr");
+      if (!pPr) pPr = paragraph.prepend_child("w:pPr");
+      pugi::xml_node rPr = pPr.child("w:rPr");
+      if (!rPr)
+        rPr = pPr.child("w:sectPr") ? pPr.insert_child_before("w:rPr", pPr.child("w:sectPr"))
+                                    : pPr.append_child("w:rPr");
+      if (!rPr.child("w:del")) owner_.StampRevision(rPr.append_child("w:del"));
+      continue;
+    }
+    pugi::xml_node run = RunLevelOf(s);
+    if (!Is(run, "w:r") || OwnInsertion(run) || RevisionAround(run)) continue;
+    pugi::xml_node del = run.parent().insert_child_before("w:del", run);
+    owner_.StampRevision(del);
+    del.append_move(run);
+    MarkTextDeleted(run);
+  }
+  Changed();
+  DeleteSegments(start, end, true);
 }
 
 void Story::ApplyFormat(long start, long end, const CharFormat& format) {

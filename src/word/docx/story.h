@@ -28,6 +28,11 @@ class StoryOwner : public FieldDisplay {
   // `node`, at position pos of the story, is about to leave the document
   // with everything it holds.
   virtual void Removing(Story& story, long pos, pugi::xml_node node) = 0;
+  // Where the document tracks revisions, edits are recorded as w:ins and w:del
+  // stamped with an id, the author and the time.
+  virtual bool TracksRevisions() { return false; }
+  virtual void StampRevision(pugi::xml_node) {}
+  virtual std::string RevisionAuthor() const { return {}; }
 };
 
 // The format typed text takes: a run's properties to copy, then the
@@ -58,6 +63,9 @@ class Story : public std::enable_shared_from_this<Story> {
 
   // The properties text typed at pos takes before any selection overlay.
   pugi::xml_node FormatSourceAt(long pos);
+  // What replaces [start, end) takes the properties of the first character it
+  // replaces; an empty range types as at start.
+  pugi::xml_node ReplacementFormat(long start, long end);
   void InsertText(long pos, const std::u16string& text, const TypingFormat& format,
                   bool forceCode = false);
   void InsertParagraph(long pos);
@@ -87,6 +95,13 @@ class Story : public std::enable_shared_from_this<Story> {
   void AdjustInsert(long pos, long count);
   void AdjustDelete(long start, long end);
   void InsertPiece(long pos, const std::u16string& piece, pugi::xml_node rPr, bool forceCode);
+  bool JoinsText(const Segment* prev, const char* element, pugi::xml_node rPr);
+  pugi::xml_node PlaceInline(long pos, const pugi::xml_node& prototype, bool tracked);
+  // Deleting with revisions tracked: the text stays, inside w:del; the
+  // author's own insertions go for good.
+  void TrackDeletion(long start, long end);
+  bool OwnInsertion(pugi::xml_node runLevel) const;
+  void DeleteSegments(long start, long end, bool onlyOwnInsertions);
   // The segment at pos when it is inside a run (not a mark).
   std::optional<Segment> RunContentAt(long pos);
   void DeleteSegmentPart(const Segment& s, long from, long to);

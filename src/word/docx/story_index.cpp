@@ -52,6 +52,7 @@ class Builder {
     s.length = length;
     s.kind = kind;
     s.mark = mark;
+    s.hidden = deleted_ > 0;  // tracked deletions keep their place but show nothing
     index_.segments.push_back(s);
     index_.length += length;
   }
@@ -65,10 +66,18 @@ class Builder {
     } else if (Is(n, "w:sdt")) {
       Container(n.child("w:sdtContent"));
     } else if (IsTransparent(n)) {
-      Container(n);
+      Transparent(n, [&] { Container(n); });
     } else {
       Markup(n);
     }
+  }
+
+  template <class Body>
+  void Transparent(pugi::xml_node n, Body body) {
+    const bool deletion = Is(n, "w:del") || Is(n, "w:moveFrom");
+    deleted_ += deletion;
+    body();
+    deleted_ -= deletion;
   }
 
   void Row(pugi::xml_node row) {
@@ -77,6 +86,8 @@ class Builder {
         Cell(cell);
       } else if (Is(cell, "w:sdt")) {
         for (pugi::xml_node c : cell.child("w:sdtContent").children("w:tc")) Cell(c);
+      } else if (cell.type() == pugi::node_element) {
+        Markup(cell);  // a bookmark behind the last cell stands at the end-of-row mark
       }
     }
     Add(row, SegKind::RowEnd, 1, u'\a');
@@ -110,7 +121,7 @@ class Builder {
       } else if (Is(n, "w:fldSimple")) {
         SimpleField(n);
       } else if (IsTransparent(n)) {
-        Inline(n);
+        Transparent(n, [&] { Inline(n); });
       } else if (Is(n, "w:sdt")) {
         Inline(n.child("w:sdtContent"));
       } else if (Is(n, "m:oMath") || Is(n, "m:oMathPara") || Is(n, "mc:AlternateContent")) {
@@ -220,6 +231,7 @@ class Builder {
   }
 
   StoryIndex& index_;
+  int deleted_ = 0;
   std::vector<size_t> open_;
   std::vector<std::pair<std::string, size_t>> openBookmarks_;
 };
