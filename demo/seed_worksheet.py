@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Writes the skeleton of the demo worksheet: a title, numbered questions and,
 where a tool is to work, the text a teacher would have typed (a formula in
-notation, or a marker for the caret). A line "---" starts a new page. The demo then selects each and runs the
-tool on it, as a teacher selects text and presses a button in Word."""
+notation, or a marker for the caret). A line "---" starts a new page. The demo
+builds the answer key at the end run after run, then selects each notation or
+marker and runs the tool on it, as a teacher does in Word."""
 import sys
 import zipfile
 from xml.sax.saxutils import escape

@@ -21,6 +21,7 @@
 #include "session/config_word.h"
 #include "session/document_init.h"
 #include "session/exit_lumenpad.h"
+#include "session/guard.h"
 #include "session/headless.h"
 #include "settings/settings_store.h"
 #include "tools/tool_table.h"
@@ -47,6 +48,7 @@ class Run {
         session_(*prompt_),
         frontend_(qt_, session_, &tools::FindForm) {
     session_.headless = headless_;
+    session_.fileMode = !options.doc.empty();
     session_.programFolder = FromUtf8(ProgramFolder());
     session_.databasePath = DatabasePath(options.config, ProgramFolder());
     session_.EndRun = [this] { Finish(); };
@@ -75,8 +77,11 @@ class Run {
   }
 
   bool DocumentInit() {
-    if (!Document_Init(session_, backEnd_.Connector(), [this] { ConfigWord(session_); }))
+    if (!Document_Init(session_, backEnd_.Connector(), [this] { ConfigWord(session_); })) {
+      status_ = kExitNoWord;
       return false;
+    }
+    connected_ = true;
     if (options_.haveSelect && !SelectFirst(*session_.WordApp, FromUtf8(options_.select))) {
       Complain("--select: the document doesn't hold " + options_.select);
       status_ = kExitUsage;
@@ -87,23 +92,30 @@ class Run {
 
   // The dialog's unload ends the run; a dialog still open after the last
   // action ends with it.
+  // Each action runs inside the guard, as a click by hand would.
   void Drive(QWidget& form) {
-    try {
-      for (const ControlAction& action : options_.actions) {
-        ui::ApplyAction(form, action);
+    for (const ControlAction& action : options_.actions) {
+      bool refused = false;
+      RunGuarded(session_, FromUtf8(action.name), OnError::kReport, [&] {
+        try {
+          ui::ApplyAction(form, action);
+        } catch (const ui::DriverError& e) {
+          Complain(e.what());
+          status_ = kExitUsage;
+          refused = true;
+        }
         QCoreApplication::processEvents();
-      }
-    } catch (const ui::DriverError& e) {
-      Complain(e.what());
-      status_ = kExitUsage;
+      });
+      if (refused) break;
     }
     ExitLumenpad(session_);
   }
 
-  // Saves the document if the run changed it, then leaves at once.
+  // Saves the document if the run changed it, then leaves at once. A run
+  // that never reached the document (no companion, no Word) writes nothing.
   [[noreturn]] void Finish() {
     try {
-      backEnd_.SaveIfChanged();
+      if (connected_) backEnd_.SaveIfChanged();
     } catch (const std::exception& e) {
       ReportError(*prompt_, u"exitlumenpad", e);
       status_ = 1;
@@ -121,6 +133,7 @@ class Run {
   Session session_;
   ui::QtFrontend frontend_;
   int status_ = 0;
+  bool connected_ = false;
 };
 
 int Main(const std::vector<std::string>& args) {
@@ -129,6 +142,10 @@ int Main(const std::vector<std::string>& args) {
   std::unique_ptr<BackEnd> backEnd;
   try {
     options = ParseRunOptions(args);
+    if (options.help) {
+      std::fputs(UsageText().c_str(), stdout);
+      return 0;
+    }
     backEnd = MakeBackEnd(options.doc);
   } catch (const UsageError& e) {
     Complain(e.what());

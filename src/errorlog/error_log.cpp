@@ -22,9 +22,11 @@ ErrInfo ErrOf(const std::exception& error) {
   std::u16string description = FromUtf8(error.what());
   if (auto* e = dynamic_cast<const RuntimeError*>(&error)) return {e->Number(), description};
   if (auto* e = dynamic_cast<const word::ComError*>(&error)) return {e->Number(), description};
-  if (dynamic_cast<const std::bad_alloc*>(&error)) return {kOutOfMemory, u"Out of memory"};
-  // Anything else is a fault of the program itself: an internal error (51).
-  return {51, u"Internal error"};
+  if (dynamic_cast<const std::bad_alloc*>(&error))
+    return {kOutOfMemory, FromUtf8(ErrorDescription(kOutOfMemory))};
+  // Anything else is a fault of the program itself, which the original
+  // runtime called an internal error.
+  return {kInternalError, FromUtf8(ErrorDescription(kInternalError))};
 }
 
 void ReportError(Prompt& prompt, const std::u16string& label, const std::exception& error) {

@@ -1,6 +1,7 @@
 #include "launcher/command_table.h"
 
 #include "session/exit_lumenpad.h"
+#include "session/guard.h"
 
 namespace lp {
 
@@ -25,16 +26,16 @@ void RunCommand(const CommandRow& row, Session& session, Frontend& ui,
   switch (row.how) {
     case How::kRoutine:
       if (Routine routine = FindRoutine(routines, row.word)) {
-        routine(session, ui);
+        // A routine without a handler of its own reports under SubMain's label.
+        RunGuarded(session, u"submain", OnError::kReport, [&] { routine(session, ui); });
       } else {
         ExitLumenpad(session);
       }
       break;
     case How::kModeless:
-      ui.ShowForm(row.form, false);
-      break;
     case How::kModal:
-      ui.ShowForm(row.form, true);
+      RunGuarded(session, u"submain", OnError::kReport,
+                 [&] { ui.ShowForm(row.form, row.how == How::kModal); });
       break;
   }
 }

@@ -26,7 +26,7 @@ enum class How {
 struct CommandRow {
   std::u16string_view word;
   How how;
-  std::u16string_view form;  // the dialog of a kModeless or kModal row
+  std::u16string_view form;  // the dialog of the row, or the one its routine may open
   bool built;
 };
 
@@ -43,7 +43,7 @@ inline constexpr std::array<CommandRow, 41> kCommandTable{{
     {u"group", How::kRoutine, {}, false},
     {u"mhgs", How::kRoutine, {}, true},
     {u"functiongraph", How::kModeless, u"frmGraph", true},
-    {u"gs", How::kRoutine, {}, true},
+    {u"gs", How::kRoutine, u"frmGS", true},
     {u"shapeselecter", How::kModal, u"frmShapeSelecter", false},
     {u"tk", How::kModeless, u"frmTK", false},
     {u"kt", How::kModeless, u"frmKT", false},
@@ -56,14 +56,14 @@ inline constexpr std::array<CommandRow, 41> kCommandTable{{
     {u"fcz", How::kRoutine, {}, false},
     {u"xl", How::kRoutine, {}, false},
     {u"hu", How::kRoutine, {}, false},
-    {u"a_c", How::kRoutine, {}, false},
+    {u"a_c", How::kRoutine, u"frmA_C", false},
     {u"xdt", How::kModeless, u"frmXDT", true},
     {u"shushi", How::kRoutine, {}, true},
     {u"gsms", How::kRoutine, {}, false},
     {u"htms", How::kRoutine, {}, false},
     {u"factoring", How::kModeless, u"frmFactoring", true},
-    {u"fraction", How::kRoutine, {}, false},
-    {u"radicalexpression", How::kRoutine, {}, false},
+    {u"fraction", How::kRoutine, u"frmFraction", false},
+    {u"radicalexpression", How::kRoutine, u"frmRadicalExpression", false},
     {u"enlarge", How::kRoutine, {}, false},
     {u"angle2radian", How::kModeless, u"frmAngle2Radian", true},
     {u"inequality", How::kModeless, u"frmInequality", false},

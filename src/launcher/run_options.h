@@ -2,6 +2,7 @@
 // The command line of lumenpad:
 //   lumenpad WORD [--doc FILE] [--select TEXT] [--set NAME=VALUE]... [--click NAME]...
 //            [--grab FILE.png]... [--answer VALUE]... [--config PATH]
+//   lumenpad --help
 // Everything that is not an option is the command text, joined by blanks.
 
 #include <stdexcept>
@@ -25,6 +26,7 @@ struct RunOptions {
   std::vector<ControlAction> actions;
   std::vector<std::string> answers;
   std::string config;
+  bool help = false;  // --help or -h: the usage, and nothing else
   // Any --set, --click or --grab: the dialog runs offscreen and its controls are driven.
   bool Driven() const { return !actions.empty(); }
 };
@@ -34,7 +36,12 @@ class UsageError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// args without the program's name. Raises UsageError on a bad option.
+// args without the program's name. Raises UsageError (a one-line Chinese
+// reason) for an unknown option, an option without its value, a --doc that
+// names no Word document, and dialog actions for a command without a dialog.
 RunOptions ParseRunOptions(const std::vector<std::string>& args);
+
+// What --help prints: the command words, the options and the exit statuses.
+std::string UsageText();
 
 }  // namespace lp

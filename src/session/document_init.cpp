@@ -86,7 +86,7 @@ void EnsureTemplate(Session& s, const std::u16string& templatePath, ResumeNext& 
   run([&] { attached = app.ActiveDocument().AttachedTemplate()->FullName(); });
   if (InStrText(attached, u"流明画板") > 0) return;
   if (InStr(LCase(s.programFolder), u"startup") > 0) return;
-  if (TemplateFoundInStartup(app, run)) return;
+  if (s.fileMode || TemplateFoundInStartup(app, run)) return;
   run([&] { app.AddIns().Add(templatePath, true); });
   s.TemplateAttached = vbTrue;
   run([&] { app.ActiveDocument().SetAttachedTemplate(templatePath); });

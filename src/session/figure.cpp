@@ -63,7 +63,7 @@ std::u16string MakeShapeName(Session& s, const std::u16string& base) {
   std::u16string name = base + u"：" + Trim(Str(static_cast<double>(RandomNumber()))) +
                         Digits(Mid(NowText(), 3)) + u"_lumenpad";
   if (name.size() > 32) name.resize(32);
-  if (s.ShapeCounter < 1) throw RuntimeError(kSubscriptOutOfRange, "Subscript out of range");
+  if (s.ShapeCounter < 1) throw RuntimeError(kSubscriptOutOfRange);
   s.ShapeNames.resize(static_cast<size_t>(s.ShapeCounter));
   s.ShapeNames[s.ShapeCounter - 1] = name;
   return name;

@@ -5,6 +5,7 @@
 
 #include "errorlog/error_log.h"
 #include "runtime/convert.h"
+#include "runtime/error.h"
 #include "runtime/text.h"
 #include "session/exit_lumenpad.h"
 
@@ -16,17 +17,28 @@ void ShowUnhandledError(Session& session, const std::exception& error) {
                         vbOKOnly, u"流明画板");
 }
 
+namespace {
+
+void Handle(Session& session, std::u16string_view routine, OnError how, const std::exception& e) {
+  if (how == OnError::kReport) {
+    ReportError(session.prompt, ErrorLabel(std::u16string(routine)), e);
+    return;
+  }
+  ShowUnhandledError(session, e);
+  ExitLumenpad(session);
+}
+
+}  // namespace
+
 void RunGuarded(Session& session, std::u16string_view routine, OnError how,
                 const std::function<void()>& body) {
   try {
     body();
   } catch (const std::exception& e) {
-    if (how == OnError::kReport) {
-      ReportError(session.prompt, ErrorLabel(std::u16string(routine)), e);
-      return;
-    }
-    ShowUnhandledError(session, e);
-    ExitLumenpad(session);
+    Handle(session, routine, how, e);
+  } catch (...) {
+    // Not one of ours: still no way out past the guard.
+    Handle(session, routine, how, RuntimeError(kInternalError));
   }
 }
 

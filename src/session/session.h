@@ -18,6 +18,7 @@ namespace lp {
 // Exit statuses of a run besides 0.
 constexpr int kExitUsage = 2;     // a bad option, a refused file, a missing control
 constexpr int kExitTimedOut = 3;  // a formula did not finish in time
+constexpr int kExitNoWord = 4;    // Word could not be reached
 
 struct Session {
   Session(word::Application& app, Prompt& prompt) : WordApp(&app), prompt(prompt) {}
@@ -40,6 +41,9 @@ struct Session {
   // with kExitTimedOut.
   bool headless = false;
   std::chrono::milliseconds formulaTimeLimit{5000};
+  // The document is a file (--doc): the program is installed where it runs,
+  // and the file's own attached template is never replaced.
+  bool fileMode = false;
 
   int16_t TemplateAttached = 0;
   long ShapeCounter = 0;

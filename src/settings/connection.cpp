@@ -4,6 +4,11 @@
 #include <random>
 #include <string>
 
+#ifndef _WIN32
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
 #include "runtime/error.h"
 #include "settings/database.h"
 #include "settings/schema.h"
@@ -13,8 +18,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-[[noreturn]] void RaiseDatabaseError(const std::string& what) {
-  throw RuntimeError(kDatabaseError, what);
+[[noreturn]] void RaiseDatabaseError(int code, const std::string& path) {
+  throw RuntimeError(kDatabaseError, DatabaseProblem(code) + "：" + path);
 }
 
 // Builds the file under a temporary name and renames it into place, so that a
@@ -27,37 +32,67 @@ void CreateDefaultDatabase(const fs::path& path) {
   sqlite3* raw = nullptr;
   int rc = sqlite3_open_v2(temp.string().c_str(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE,
                            nullptr);
-  std::string error = raw ? sqlite3_errmsg(raw) : "out of memory";
-  if (rc == SQLITE_OK) {
-    char* message = nullptr;
-    rc = sqlite3_exec(raw, DefaultSchemaSql(), nullptr, nullptr, &message);
-    if (message) error = message;
-    sqlite3_free(message);
-  }
+  if (rc == SQLITE_OK) rc = sqlite3_exec(raw, DefaultSchemaSql(), nullptr, nullptr, nullptr);
   sqlite3_close(raw);
   if (rc == SQLITE_OK) fs::rename(temp, path, ec);
   if (rc != SQLITE_OK || ec) {
     fs::remove(temp, ec);
-    RaiseDatabaseError("Could not create the settings file '" + path.string() + "': " + error);
+    RaiseDatabaseError(rc != SQLITE_OK ? rc : SQLITE_CANTOPEN, path.string());
   }
 }
 
 }  // namespace
 
+std::string DatabaseProblem(int sqliteCode) {
+  switch (sqliteCode & 0xFF) {
+    case SQLITE_NOTADB:
+    case SQLITE_CORRUPT:
+      return "设置文件已损坏，不是数据库";
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return "设置文件正被另一个程序使用，请稍后再试";
+    case SQLITE_READONLY:
+      return "设置文件是只读的，无法写入";
+    case SQLITE_CANTOPEN:
+    case SQLITE_PERM:
+      return "无法打开设置文件";
+    case SQLITE_FULL:
+      return "磁盘已满，设置无法写入";
+    case SQLITE_ERROR:
+      return "设置文件中缺少所需的表或字段";
+    default:
+      return "设置文件出错（代码 " + std::to_string(sqliteCode) + "）";
+  }
+}
+
 void Connection::Closer::operator()(sqlite3* db) const {
   sqlite3_close(db);
 }
 
+bool FileWritable(const std::string& path) {
+#ifdef _WIN32
+  std::error_code ec;
+  return (fs::status(path, ec).permissions() & fs::perms::owner_write) != fs::perms::none;
+#else
+  struct stat st {};
+  return ::stat(path.c_str(), &st) == 0 && (st.st_mode & 0222) != 0 &&
+         ::access(path.c_str(), W_OK) == 0;
+#endif
+}
+
+// A file that cannot be written is read where it is: writes go elsewhere
+// (WritableDatabasePath). An empty file is a missing one.
 void Connection::Open(const std::string& path) {
   Close();
-  if (!fs::exists(path)) CreateDefaultDatabase(path);
+  std::error_code ec;
+  if (!fs::exists(path) || fs::file_size(path, ec) == 0) CreateDefaultDatabase(path);
   sqlite3* raw = nullptr;
-  int rc = sqlite3_open_v2(path.c_str(), &raw, SQLITE_OPEN_READWRITE, nullptr);
+  const int mode = FileWritable(path) ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY;
+  int rc = sqlite3_open_v2(path.c_str(), &raw, mode, nullptr);
   db_.reset(raw);
   if (rc != SQLITE_OK) {
-    std::string error = raw ? sqlite3_errmsg(raw) : "out of memory";
     db_.reset();
-    RaiseDatabaseError("Could not open the settings file '" + path + "': " + error);
+    RaiseDatabaseError(rc, path);
   }
   sqlite3_busy_timeout(raw, 2000);
 }

@@ -26,6 +26,11 @@ std::u16string CStrValue(const DbValue& v);
 
 // The number that database failures carry, as the data layer reported them.
 constexpr int kDatabaseError = -2147467259;
+// Whether the file may be written; a file without any write permission counts
+// as read-only even for the administrator.
+bool FileWritable(const std::string& path);
+// What went wrong with the settings file, in Chinese, for an SQLite result code.
+std::string DatabaseProblem(int sqliteCode);
 
 enum ObjectState { adStateClosed = 0, adStateOpen = 1 };
 

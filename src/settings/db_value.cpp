@@ -8,7 +8,7 @@ namespace lp {
 namespace {
 
 [[noreturn]] void RaiseInvalidUseOfNull() {
-  throw RuntimeError(kInvalidUseOfNull, "Invalid use of Null");
+  throw RuntimeError(kInvalidUseOfNull);
 }
 
 double NumberOf(const DbValue& v) {

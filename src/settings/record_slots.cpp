@@ -5,6 +5,7 @@
 
 #include "runtime/utf8.h"
 #include "settings/database.h"
+#include "settings/settings_store.h"
 
 namespace lp {
 namespace {
@@ -34,8 +35,9 @@ std::string RecordWriteStatement(int id) {
   return "select * from  record where id=" + std::to_string(id);
 }
 
+// Slots are written where writes go, and read back from there.
 std::u16string ReadRecordSlot(const std::string& dbPath, int id) {
-  Database db(dbPath);
+  Database db(WritableDatabasePath(dbPath));
   OpenDatabase(db);
   if (db.DbRs.State() == adStateOpen) db.DbRs.Close();
   db.DbRs.Open(RecordReadStatement(id), db.DbConn);
@@ -45,7 +47,7 @@ std::u16string ReadRecordSlot(const std::string& dbPath, int id) {
 }
 
 void WriteRecordSlot(const std::string& dbPath, int id, const std::u16string& data) {
-  Database db(dbPath);
+  Database db(WritableDatabasePath(dbPath));
   OpenDatabase(db);
   db.DbRs.Open(RecordWriteStatement(id), db.DbConn);
   std::time_t now = std::time(nullptr);

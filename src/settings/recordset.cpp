@@ -13,7 +13,7 @@ namespace lp {
 namespace {
 
 [[noreturn]] void RaiseSqlError(sqlite3* db) {
-  throw RuntimeError(kDatabaseError, sqlite3_errmsg(db));
+  throw RuntimeError(kDatabaseError, DatabaseProblem(sqlite3_errcode(db)));
 }
 
 bool SameName(std::string_view a, std::string_view b) {
@@ -71,7 +71,7 @@ std::string TableOf(const std::string& sql) {
 }  // namespace
 
 void Recordset::Open(const std::string& sql, Connection& conn) {
-  if (conn.State() != adStateOpen) throw RuntimeError(3709, "The connection is closed.");
+  if (conn.State() != adStateOpen) throw RuntimeError(3709);
   Close();
   sqlite3* db = conn.Handle();
   table_ = TableOf(sql);
@@ -110,8 +110,7 @@ void Recordset::Close() {
 }
 
 void Recordset::MoveNext() {
-  if (Eof())
-    throw RuntimeError(3021, "Either BOF or EOF is True, or the current record has been deleted.");
+  if (Eof()) throw RuntimeError(3021);
   ++current_;
 }
 
@@ -128,9 +127,8 @@ Recordset::Row& Recordset::CurrentRow() {
 }
 
 const Recordset::Row& Recordset::CurrentRow() const {
-  if (!open_) throw RuntimeError(3704, "Operation is not allowed when the object is closed.");
-  if (Eof())
-    throw RuntimeError(3021, "Either BOF or EOF is True, or the current record has been deleted.");
+  if (!open_) throw RuntimeError(3704);
+  if (Eof()) throw RuntimeError(3021);
   return rows_[current_];
 }
 
@@ -143,7 +141,7 @@ const DbValue& Recordset::Value(std::string_view name) const {
 }
 
 void Recordset::AddNew() {
-  if (!open_) throw RuntimeError(3704, "Operation is not allowed when the object is closed.");
+  if (!open_) throw RuntimeError(3704);
   rows_.push_back(
       Row{0, std::vector<DbValue>(columns_.size()), std::vector<bool>(columns_.size(), false)});
   current_ = rows_.size() - 1;
@@ -151,7 +149,7 @@ void Recordset::AddNew() {
 
 void Recordset::Update() {
   Row& row = CurrentRow();
-  if (table_.empty()) throw RuntimeError(3251, "The statement's rows can't be written back.");
+  if (table_.empty()) throw RuntimeError(3251);
   std::vector<size_t> changed;
   for (size_t i = 0; i < columns_.size(); ++i)
     if (row.changed[i]) changed.push_back(i);

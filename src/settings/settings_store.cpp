@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "settings/config_row.h"
+#include "settings/database.h"
 
 #ifdef _WIN32
 #include <io.h>
@@ -42,9 +43,27 @@ fs::path UserDataFolder() {
 std::string DatabasePath(const std::string& configOverride, const std::string& programFolder) {
   if (!configOverride.empty()) return configOverride;
   fs::path beside = fs::path(programFolder) / kFileName;
-  bool usable = fs::exists(beside) ? Writable(beside) : Writable(programFolder);
+  bool usable = fs::exists(beside) || Writable(programFolder);
   if (!programFolder.empty() && usable) return beside.string();
+  return UserDatabasePath();
+}
+
+std::string UserDatabasePath() {
   return (UserDataFolder() / kFileName).string();
+}
+
+std::string WritableDatabasePath(const std::string& dbPath) {
+  if (!fs::exists(dbPath) || FileWritable(dbPath)) return dbPath;
+  const fs::path copy = UserDatabasePath();
+  std::error_code ec;
+  if (fs::equivalent(copy, dbPath, ec)) return dbPath;
+  if (!fs::exists(copy)) {
+    fs::create_directories(copy.parent_path(), ec);
+    fs::copy_file(dbPath, copy, ec);
+    fs::permissions(copy, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add,
+                    ec);
+  }
+  return copy.string();
 }
 
 ConfigGlobals ReadConfigGlobals(const std::string& dbPath) {

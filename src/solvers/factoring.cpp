@@ -94,7 +94,7 @@ void InsertFactorisation(const Factorisation& f, word::Selection& selection) {
   selection.TypeText(Str(f.Number) + u"= ");
   int32_t last = f.FactorCount - 1;
   if (!f.haveFactors || last < 0 || last >= static_cast<int32_t>(f.Factor.size()))
-    throw RuntimeError(kSubscriptOutOfRange, "Subscript out of range");
+    throw RuntimeError(kSubscriptOutOfRange);
   if (f.FactorCount == 1) {
     selection.TypeText(Str(f.Factor[0]));
     TypeSuperscript(selection, Str(f.Exponent[0]));

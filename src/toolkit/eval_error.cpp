@@ -5,38 +5,36 @@ namespace {
 
 struct KindInfo {
   int number;
-  const char* description;
   const char* name;
 };
 
 KindInfo InfoOf(EvalErrorKind kind) {
   switch (kind) {
     case EvalErrorKind::kSyntax:
-      return {1002, "Syntax error", "syntax"};
+      return {1002, "syntax"};
     case EvalErrorKind::kTooComplex:
-      return {28, "Out of stack space", "too-complex"};
+      return {28, "too-complex"};
     case EvalErrorKind::kUnknownFunction:
-      return {kTypeMismatch, "Type mismatch", "unknown-function"};
+      return {kTypeMismatch, "unknown-function"};
     case EvalErrorKind::kWrongArguments:
-      return {450, "Wrong number of arguments or invalid property assignment", "wrong-arguments"};
+      return {450, "wrong-arguments"};
     case EvalErrorKind::kDivisionByZero:
-      return {kDivisionByZero, "Division by zero", "division-by-zero"};
+      return {kDivisionByZero, "division-by-zero"};
     case EvalErrorKind::kLogarithmDomain:
-      return {kInvalidProcedureCall, "Invalid procedure call or argument", "log-domain"};
+      return {kInvalidProcedureCall, "log-domain"};
     case EvalErrorKind::kRootDomain:
-      return {kInvalidProcedureCall, "Invalid procedure call or argument", "sqr-domain"};
+      return {kInvalidProcedureCall, "sqr-domain"};
     case EvalErrorKind::kPowerDomain:
-      return {kInvalidProcedureCall, "Invalid procedure call or argument", "power-domain"};
+      return {kInvalidProcedureCall, "power-domain"};
     case EvalErrorKind::kOverflow:
-      return {kOverflow, "Overflow", "overflow"};
+      return {kOverflow, "overflow"};
   }
-  return {kInvalidProcedureCall, "Invalid procedure call or argument", "unknown"};
+  return {kInvalidProcedureCall, "unknown"};
 }
 
 }  // namespace
 
-EvalError::EvalError(EvalErrorKind kind)
-    : RuntimeError(InfoOf(kind).number, InfoOf(kind).description), kind_(kind) {}
+EvalError::EvalError(EvalErrorKind kind) : RuntimeError(InfoOf(kind).number), kind_(kind) {}
 
 void RaiseEvalError(EvalErrorKind kind) {
   throw EvalError(kind);

@@ -34,7 +34,8 @@ void QtFrontend::PumpEvents() {
 void QtFrontend::ShowForm(std::u16string_view name, bool modal) {
   app_.Get();
   FormMaker make = findForm_(name);
-  if (!make) throw RuntimeError(kInvalidProcedureCall, "No dialog " + ToUtf8(std::u16string(name)));
+  if (!make)
+    throw RuntimeError(kInvalidProcedureCall, "没有这个对话框：" + ToUtf8(std::u16string(name)));
   form_ = make(session_);
   if (modal && !session_.headless) {
     form_->exec();

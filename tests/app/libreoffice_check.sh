@@ -29,6 +29,7 @@ docs=()
 for file in "${files[@]}"; do
   doc="$work/$(basename "$file")"
   cp "$corpus/$file" "$doc"
+  chmod u+w "$doc"  # the corpus is read-only, and lumenpad refuses read-only files
   QT_QPA_PLATFORM=offscreen "$lp" factoring --doc "$doc" --config "$work/config.db" \
     --set Text1=360 --click Command1 --click cmdInsert --click Command2 ||
     fail "lumenpad on $file"

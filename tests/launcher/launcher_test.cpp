@@ -147,10 +147,10 @@ TEST(HeadlessPrompt, AnswersInOrder) {
 }
 
 TEST(RunOptions, WordsJoinAndActionsKeepTheirOrder) {
+  EXPECT_EQ(ParseRunOptions({"dot", "--doc", "a.docx", "test"}).commandLine, "dot test");
   RunOptions o =
-      ParseRunOptions({"dot", "--set", "optKD_1=1", "--doc", "a.docx", "test", "--click", "cmdOK",
+      ParseRunOptions({"factoring", "--set", "optKD_1=1", "--doc", "a.docx", "--click", "cmdOK",
                        "--set", "txt=a=b", "--answer", "no", "--config", "c.db"});
-  EXPECT_EQ(o.commandLine, "dot test");
   EXPECT_EQ(o.doc, "a.docx");
   EXPECT_EQ(o.config, "c.db");
   EXPECT_EQ(o.answers, std::vector<std::string>{"no"});
@@ -162,6 +162,30 @@ TEST(RunOptions, WordsJoinAndActionsKeepTheirOrder) {
   EXPECT_FALSE(ParseRunOptions({"test"}).Driven());
   EXPECT_THROW(ParseRunOptions({"--set", "=1"}), UsageError);
   EXPECT_THROW(ParseRunOptions({"factoring", "--click"}), UsageError);
+}
+
+// What the command line refuses, with a one-line reason, before anything runs.
+TEST(RunOptions, MistakesAreRefusedAndHelpIsAnOption) {
+  EXPECT_TRUE(ParseRunOptions({"--help"}).help);
+  EXPECT_TRUE(ParseRunOptions({"gs", "-h", "--selct"}).help);
+  const std::vector<std::vector<std::string>> refused = {
+      {"gs", "--selct", "x"},           // misspelt option
+      {"test", "--doc", "typo.dcox"},   // no Word document
+      {"test", "--click", "cmdOK"},     // a command without a dialog
+      {"mhgs", "--set", "a=1"},         // likewise
+      {"nonsense", "--grab", "x.png"},  // an unknown word has none either
+  };
+  for (const auto& args : refused) {
+    try {
+      ParseRunOptions(args);
+      ADD_FAILURE() << args[1];
+    } catch (const UsageError& e) {
+      EXPECT_EQ(std::string(e.what()).find('\n'), std::string::npos);
+    }
+  }
+  EXPECT_NO_THROW(
+      ParseRunOptions({"gs", "--doc", "A.DOCX", "--set", "txtGS=x", "--click", "cmdOK"}));
+  EXPECT_NE(UsageText().find("factoring"), std::string::npos);
 }
 
 }  // namespace

@@ -5,10 +5,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 
 #include "runtime/convert.h"
 #include "runtime/text.h"
+#include "runtime/utf8.h"
 
 namespace lp {
 namespace {
@@ -50,6 +52,33 @@ TEST(RuntimeError, EdgesThatAreAcceptedRaiseNothing) {
   EXPECT_NO_THROW(CLng(-2147483648.0));
   EXPECT_NO_THROW(Mid(u"abc", 4));  // past the end: empty
   EXPECT_NO_THROW(Chr(-32768));
+}
+
+// Every error the runtime raises reads in Chinese: no description is a
+// sentence of Latin letters only.
+TEST(RuntimeError, EveryNumberHasAChineseDescription) {
+  for (const ErrorText& t : RuntimeErrorTexts()) {
+    const std::u16string text = FromUtf8(t.description);
+    const bool chinese =
+        std::any_of(text.begin(), text.end(), [](char16_t c) { return c >= 0x3000; });
+    EXPECT_TRUE(chinese) << t.number << " " << t.description;
+    try {
+      throw RuntimeError(t.number);
+    } catch (const RuntimeError& e) {
+      EXPECT_EQ(std::string(e.what()), t.description);
+    }
+  }
+  const std::pair<int, const char*> known[] = {{kOverflow, "溢出"},
+                                               {kSubscriptOutOfRange, "下标越界"},
+                                               {kTypeMismatch, "类型不匹配"},
+                                               {kInvalidUseOfNull, "无效使用 Null"},
+                                               {kInternalError, "内部错误"}};
+  for (auto [number, text] : known) EXPECT_EQ(ErrorDescription(number), text);
+  try {
+    RaiseOverflow();
+  } catch (const RuntimeError& e) {
+    EXPECT_STREQ(e.what(), "溢出");
+  }
 }
 
 }  // namespace

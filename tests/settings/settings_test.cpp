@@ -109,7 +109,7 @@ TEST_F(SettingsTest, ConfigWordReportsAFailureAndGoesOn) {
   Exec("update config set blvalue=NULL where cName='blPLZH';");
   ConfigWord(session);
   ASSERT_EQ(prompt.Shown().size(), 1u);
-  EXPECT_EQ(prompt.Shown()[0].prompt, u"Invalid use of Null\r\nConfigWord-->line 0");
+  EXPECT_EQ(prompt.Shown()[0].prompt, u"无效使用 Null\r\nConfigWord-->line 0");
   EXPECT_EQ(prompt.Shown()[0].title, u"错误号: 94");
   EXPECT_EQ(session.config.blFS, 0);
   EXPECT_EQ(session.config.intK, 0);
@@ -118,6 +118,7 @@ TEST_F(SettingsTest, ConfigWordReportsAFailureAndGoesOn) {
   std::ofstream(path_, std::ios::trunc) << "this is not a database at all, not even a little";
   ConfigWord(session);
   ASSERT_EQ(prompt.Shown().size(), 1u);
+  EXPECT_EQ(prompt.Shown()[0].prompt.substr(0, 13), u"设置文件已损坏，不是数据库");
   EXPECT_NE(prompt.Shown()[0].prompt.find(u"ConfigWord-->line 0"), std::u16string::npos);
 }
 
@@ -197,6 +198,31 @@ TEST_F(SettingsTest, DatabasePathPrefersTheProgramFolder) {
   EXPECT_EQ(DatabasePath("", dir_.string()), (dir_ / "config.db").string());
   setenv("XDG_DATA_HOME", dir_.c_str(), 1);
   EXPECT_EQ(DatabasePath("", "/no/such/folder"), (dir_ / "lumenpad" / "config.db").string());
+}
+
+// A settings file that cannot be written is read where it is; the dialogs'
+// slots then go to the teacher's own copy, made from it.
+TEST_F(SettingsTest, ReadOnlyFileIsReadInPlaceAndWritesGoToACopyOfIt) {
+  ReadConfigGlobals(path_);
+  Exec("update config set blvalue=-1 where cName='blFS'; update record set Data='old' where id=3;");
+  fs::permissions(path_, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+  setenv("XDG_DATA_HOME", (dir_ / "home").c_str(), 1);
+  EXPECT_EQ(ReadConfigGlobals(path_).blFS, -1);
+  EXPECT_EQ(ReadRecordSlot(path_, 3), u"old");
+  WriteRecordSlot(path_, 4, u"new");
+  const std::string copy = (dir_ / "home" / "lumenpad" / "config.db").string();
+  EXPECT_EQ(ReadConfigGlobals(copy).blFS, -1);  // a copy of the file, not of the defaults
+  EXPECT_EQ(ReadRecordSlot(path_, 4), u"new");
+  EXPECT_EQ(ReadRecordSlot(path_, 3), u"old");
+  fs::permissions(path_, fs::perms::owner_write, fs::perm_options::add);
+  path_ = copy;
+  Exec("select 1");  // the copy can be written
+}
+
+TEST_F(SettingsTest, AnEmptyFileIsAMissingOne) {
+  std::ofstream(path_).close();
+  EXPECT_EQ(ReadConfigGlobals(path_).intK, 5);
+  EXPECT_EQ(ReadRecordSlot(path_, 1), u"");
 }
 
 }  // namespace

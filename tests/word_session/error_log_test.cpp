@@ -25,7 +25,7 @@ TEST(ErrorLog, ReportErrorShowsDescriptionLabelAndNumber) {
   EXPECT_EQ(shown[2].prompt, u"集合中所需的成员不存在。\r\nJoin_LR-->line 0");
   EXPECT_EQ(shown[2].title, u"错误号: 5941");
   EXPECT_EQ(shown[3].title, u"错误号: 6");
-  EXPECT_EQ(shown[4].prompt, u"Internal error\r\nx");
+  EXPECT_EQ(shown[4].prompt, u"内部错误\r\nx");
 }
 
 TEST(ErrorLog, InputErrorPutsTheComplaintInTheTitle) {
