@@ -44,7 +44,7 @@ struct Chart {
 
   double X(double x) const { return r.originX + x; }
   double Y(double v) const {
-    if (S == 0) throw RuntimeError(kDivisionByZero, "Division by zero");
+    if (S == 0) throw RuntimeError(kDivisionByZero);
     return r.originY - (v / S) * t;
   }
   double Col(int i) const { return D * (i - 1) / n; }
@@ -77,7 +77,7 @@ struct Chart {
 void LayOut(Chart& c) {
   const double oy = c.r.originY;
   c.T = c.r.fixedYScale ? ShownSingle(CSng(Val(c.r.yEnd))) : c.d.maxValue;
-  if (c.S == 0) throw RuntimeError(kDivisionByZero, "Division by zero");
+  if (c.S == 0) throw RuntimeError(kDivisionByZero);
   if (!c.r.framed) {
     c.w = Int(c.W / (c.n + 2));
     c.pad = c.w;
@@ -165,7 +165,7 @@ void ValueMark(Chart& c, int i, int16_t value) {
   }
   if (c.r.type == ChartType::kRelativeFrequency) {
     double denominator = static_cast<double>(c.d.total) * c.classWidth;
-    if (denominator == 0) throw RuntimeError(kDivisionByZero, "Division by zero");
+    if (denominator == 0) throw RuntimeError(kDivisionByZero);
     std::u16string pattern = u"0." + std::u16string(CInt(Val(c.r.decimals)), u'0');
     std::u16string share = Format(value / denominator, pattern);
     double len = Len(share);
@@ -217,7 +217,7 @@ HistogramData ReadHistogramData(const std::u16string& text) {
   if (!list.empty() && list.back() == u',') list.pop_back();
   HistogramData d;
   for (const std::u16string& entry : Split(list, u",")) d.values.push_back(CInt(Val(entry)));
-  if (d.values.empty()) throw RuntimeError(kSubscriptOutOfRange, "Subscript out of range");
+  if (d.values.empty()) throw RuntimeError(kSubscriptOutOfRange);
   d.sorted = d.values;
   std::sort(d.sorted.begin(), d.sorted.end());
   d.maxValue = d.sorted.back();

@@ -51,7 +51,7 @@ figures::ShapeList PieChart(const PieRequest& r, const Random& rnd) {
     values.push_back(CSng(Val(part)));
     sum += values.back();
   }
-  if (sum == 0) throw RuntimeError(kDivisionByZero, "Division by zero");
+  if (sum == 0) throw RuntimeError(kDivisionByZero);
   figures::ShapeList shapes;
   float a0 = 0;
   for (size_t i = 0; i < parts.size(); ++i) {

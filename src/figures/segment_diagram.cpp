@@ -31,7 +31,7 @@ ShapeList ByRatio(const SegmentRequest& r, int16_t h) {
   std::vector<float> pieces = SplitRatio(r.ratio);
   if (pieces.empty()) return {};
   int16_t sum = RatioSum(pieces);
-  if (sum == 0) throw RuntimeError(kDivisionByZero, "Division by zero");
+  if (sum == 0) throw RuntimeError(kDivisionByZero);
   double u = Val(r.length) * kPointsPerCm / sum;
   ShapeList shapes{Tick(1, r.originX, r, h)};
   double c = 0;

@@ -17,6 +17,8 @@ constexpr ErrorText kTexts[] = {
     {kFileNotFound, "文件未找到"},
     {kPathFileAccessError, "路径/文件访问错误"},
     {kInvalidUseOfNull, "无效使用 Null"},
+    {91, "对象变量或 With 块变量未设置"},
+    {424, "要求对象"},
     {429, "ActiveX 部件不能创建对象"},
     {438, "对象不支持该属性或方法"},
     {450, "错误的参数个数或无效的属性赋值"},
