@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <QPushButton>
 
-#include "ui/named_widgets.h"
+#include "ui/named_controls.h"
 
 namespace lp {
 
@@ -78,12 +78,12 @@ frmInterval::frmInterval(Session& session) : ui::Form(session) {
 QGroupBox* frmInterval::MakeFrame2() {
   Frame2 = new QGroupBox(QStringLiteral("画数轴"), this);
   Frame2->setObjectName(QStringLiteral("Frame2"));
-  txtLengthOfAxis = NamedEdit(Frame2, "txtLengthOfAxis");
-  txtXmin = NamedEdit(Frame2, "txtXmin");
-  txtXmax = NamedEdit(Frame2, "txtXmax");
+  txtLengthOfAxis = NamedEdit(Frame2, "txtLengthOfAxis", {});
+  txtXmin = NamedEdit(Frame2, "txtXmin", {});
+  txtXmax = NamedEdit(Frame2, "txtXmax", {});
   optKD = {NamedOption(Frame2, "optKD_0", QStringLiteral("自动刻度")),
            NamedOption(Frame2, "optKD_1", QStringLiteral("指定刻度"))};
-  txtNumberList = NamedEdit(Frame2, "txtNumberList");
+  txtNumberList = NamedEdit(Frame2, "txtNumberList", {});
   chkNumberAxisOnly = NamedCheck(Frame2, "chkNumberAxisOnly", QStringLiteral("仅画数轴"));
   chkNoX = NamedCheck(Frame2, "chkNoX", QStringLiteral("去x"));
   auto* grid = new QGridLayout(Frame2);
@@ -99,9 +99,10 @@ QGroupBox* frmInterval::MakeFrame2() {
   grid->addWidget(optKD[0], 3, 0, 1, 2);
   grid->addWidget(optKD[1], 3, 2, 1, 2);
   grid->addWidget(txtNumberList, 4, 0, 1, 4);
-  grid->addWidget(NamedLabel(Frame2, "Label6",
-                             QStringLiteral("刻度中，根号用g或sqr表示，如g2或sqr(2)表示根号2")),
-                  5, 0, 1, 4);
+  auto* Label6 = NamedLabel(Frame2, "Label6",
+                            QStringLiteral("刻度中，根号用g或sqr表示，如g2或sqr(2)表示根号2"));
+  Label6->setWordWrap(true);
+  grid->addWidget(Label6, 5, 0, 1, 4);
   OnClick(chkNumberAxisOnly, u"chkNumberAxisOnly_Click", [this] { chkNumberAxisOnly_Click(); });
   for (int i = 0; i < 2; ++i)
     OnClick(optKD[i], u"optKD_Click", [this, i] { txtNumberList->setEnabled(i == 1); });
@@ -122,10 +123,12 @@ QGroupBox* frmInterval::MakeFrame1() {
     imgInterval[i]->installEventFilter(this);
     grid->addWidget(imgInterval[i], i % 4, (i / 4) * 2);
     grid->addWidget(kinds[i], i % 4, (i / 4) * 2 + 1);
-    OnClick(kinds[i], u"optInterval_Click", [this, i] { Kind_Click(i); });
+    connect(kinds[i], &QRadioButton::toggled, this, Guard(u"optInterval_Click", [this, i] {
+              if (kinds[i]->isChecked()) Kind_Click(i);
+            }));
   }
-  txtA = NamedEdit(Frame1, "txtA");
-  txtB = NamedEdit(Frame1, "txtB");
+  txtA = NamedEdit(Frame1, "txtA", {});
+  txtB = NamedEdit(Frame1, "txtB", {});
   chkKD = NamedCheck(Frame1, "chkKD", QStringLiteral("全刻度"));
   grid->addWidget(new QLabel(QStringLiteral("a="), Frame1), 4, 0);
   grid->addWidget(txtA, 4, 1);

@@ -2,7 +2,7 @@
 
 #include <QGridLayout>
 
-#include "ui/named_widgets.h"
+#include "ui/named_controls.h"
 
 namespace lp {
 
@@ -14,8 +14,8 @@ frmA_C::frmA_C(Session& session) : ui::Form(session) {
   QFont letter = Label1->font();
   letter.setPointSize(letter.pointSize() * 2);
   Label1->setFont(letter);
-  txtM = NamedEdit(this, "txtM");
-  txtN = NamedEdit(this, "txtN");
+  txtM = NamedEdit(this, "txtM", {});
+  txtN = NamedEdit(this, "txtN", {});
   optA_0 = NamedOption(this, "optA_0", QStringLiteral("排列"));
   optA_1 = NamedOption(this, "optA_1", QStringLiteral("组合"));
   optA_0->setChecked(true);

@@ -7,7 +7,7 @@
 #include "runtime/text.h"
 #include "solvers/equation.h"
 #include "toolkit/solve.h"
-#include "ui/named_widgets.h"
+#include "ui/named_controls.h"
 
 namespace lp {
 
@@ -26,7 +26,7 @@ frmEquation::frmEquation(Session& session) : ui::Form(session) {
 
 QWidget* frmEquation::LinearTab() {
   auto* tab = new QWidget(this);
-  txtL_Equation = NamedEdit(tab, "txtL_Equation");
+  txtL_Equation = NamedEdit(tab, "txtL_Equation", {});
   labSolution_L = NamedLabel(tab, "labSolution_L", QStringLiteral("方程的解为：x="));
   optAll_L = NamedOption(tab, "optAll_L", QStringLiteral("插入解答过程"));
   auto* optKeyOnly_L = NamedOption(tab, "optKeyOnly_L", QStringLiteral("仅插入答案"));
@@ -52,7 +52,7 @@ QWidget* frmEquation::LinearTab() {
 
 QWidget* frmEquation::QuadraticTab() {
   auto* tab = new QWidget(this);
-  txtQ_Equation = NamedEdit(tab, "txtQ_Equation");
+  txtQ_Equation = NamedEdit(tab, "txtQ_Equation", {});
   List_Q = new QListWidget(tab);
   List_Q->setObjectName(QStringLiteral("List_Q"));
   optAll_Q = NamedOption(tab, "optAll_Q", QStringLiteral("插入解答过程"));

@@ -5,7 +5,7 @@
 #include "runtime/text.h"
 #include "solvers/inequality.h"
 #include "toolkit/solve.h"
-#include "ui/named_widgets.h"
+#include "ui/named_controls.h"
 
 namespace lp {
 
@@ -28,12 +28,12 @@ frmInequality::frmInequality(Session& session) : ui::Form(session) {
   auto* grid = new QGridLayout(this);
   grid->addWidget(NamedLabel(this, "Label2", QStringLiteral("请输入不等式")), 0, 0, 1, 3);
   grid->addWidget(Text1, 1, 0, 1, 3);
-  grid->addWidget(
-      NamedLabel(
-          this, "Label3",
-          QStringLiteral("不等号输入方法：\"≤\"请输入\"<=\",\"≥\"请输入\">=\",\"≠\"请输入\"<>"
-                         "\"，如\"x≤3\"可输入\"x<=3\"")),
-      2, 0, 1, 3);
+  auto* Label3 = NamedLabel(
+      this, "Label3",
+      QStringLiteral("不等号输入方法：\"≤\"请输入\"<=\",\"≥\"请输入\">=\",\"≠\"请输入\"<>"
+                     "\"，如\"x≤3\"可输入\"x<=3\""));
+  Label3->setWordWrap(true);
+  grid->addWidget(Label3, 2, 0, 1, 3);
   grid->addWidget(Label1, 3, 0, 1, 3);
   grid->addWidget(optAll, 4, 0);
   grid->addWidget(optKeyOnly, 4, 1);

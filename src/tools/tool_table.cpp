@@ -24,10 +24,8 @@ namespace lp::tools {
 namespace {
 
 constexpr std::array kRoutines{
-    RoutineBinding{u"test", &TestCommand},
-    RoutineBinding{u"mhgs", &MhgsCommand},
-    RoutineBinding{u"gs", &GsCommand},
-    RoutineBinding{u"shushi", &ShuShiCommand},
+    RoutineBinding{u"test", &TestCommand},       RoutineBinding{u"mhgs", &MhgsCommand},
+    RoutineBinding{u"gs", &GsCommand},           RoutineBinding{u"shushi", &ShuShiCommand},
     RoutineBinding{u"a_c", &PermutationCommand},
 };
 
