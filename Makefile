@@ -11,7 +11,7 @@ PACKAGES := build-essential cmake ninja-build pkg-config \
   libgtest-dev libgmock-dev \
   libjpeg-turbo-progs libjpeg62-turbo-dev libmuparser-dev \
   libxml2-utils poppler-utils libreoffice-writer-nogui fonts-wqy-zenhei unzip python3 \
-  g++-mingw-w64-x86-64 nodejs wine64
+  g++-mingw-w64-x86-64 nodejs wine64 fonttools
 
 .PHONY: deps build test demo bench clean com com-wine format
 

@@ -1,8 +1,10 @@
 #include "app/back_end.h"
 
+#include "app/program_folder.h"
 #include "formula/latex_to_omml.h"
 #include "runtime/utf8.h"
 #include "word/docx/docx_application.h"
+#include "word/docx/docx_document.h"
 #include "word/types.h"
 
 #ifdef _WIN32
@@ -29,6 +31,8 @@ class DocxFile : public BackEnd, public WordConnector {
       : app_(word::docx::OpenDocxForEditing(std::filesystem::u8path(path))) {
     // TeX typed for the formula tools becomes a native equation.
     app_->SetTexConverter([](const std::u16string& tex) { return LatexToOmml(tex); });
+    // The program's own fonts lie beside it, as they are installed.
+    app_->Document().SetFontFolder(std::filesystem::u8path(ProgramFolder()));
   }
   WordConnector& Connector() override { return *this; }
   void SaveIfChanged() override { app_->SaveIfChanged(); }

@@ -87,6 +87,7 @@ class Run {
       status_ = kExitUsage;
       return false;
     }
+    if (options_.caretOnly) session_.WordApp->Selection().Delete();
     return true;
   }
 

@@ -6,9 +6,9 @@
 #include "formula/insert.h"
 #include "runtime/convert.h"
 #include "runtime/text.h"
+#include "session/figure.h"
 #include "toolkit/expression.h"
 #include "toolkit/normalise.h"
-#include "session/figure.h"
 
 namespace lp {
 namespace {

@@ -6,11 +6,11 @@
 #include "figures/interval_draw.h"
 #include "runtime/convert.h"
 #include "runtime/text.h"
+#include "session/figure.h"
 #include "settings/record_slots.h"
 #include "toolkit/expression.h"
 #include "toolkit/normalise.h"
 #include "toolkit/quotient.h"
-#include "session/figure.h"
 
 namespace lp {
 namespace {

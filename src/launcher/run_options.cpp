@@ -47,6 +47,9 @@ RunOptions ParseRunOptions(const std::vector<std::string>& args) {
     } else if (a == "--select") {
       o.select = value();
       o.haveSelect = true;
+    } else if (a == "--caret") {
+      o.select = value();
+      o.haveSelect = o.caretOnly = true;
     } else if (a == "--set") {
       const std::string& v = value();
       size_t eq = v.find('=');

@@ -40,13 +40,13 @@ std::u16string ACResultLabel(double count) {
   return u"运算结果：" + Str(count);
 }
 
-void InsertAC(Session& session, const ACControls& c) {
+std::optional<double> InsertAC(Session& session, const ACControls& c) {
   if (Trim(c.txtM).empty() || Trim(c.txtN).empty() || Val(c.txtM) > Val(c.txtN)) {
     Refuse(session.prompt, kRefused);
-    return;
+    return std::nullopt;
   }
   std::optional<double> count;
-  if (c.Check1 && !(count = CountOf(c, session.prompt))) return;
+  if (c.Check1 && !(count = CountOf(c, session.prompt))) return std::nullopt;
   word::Selection& selection = session.WordApp->Selection();
   selection.TypeText(ACLetter(c.combination));
   auto where = selection.Range();
@@ -55,6 +55,7 @@ void InsertAC(Session& session, const ACControls& c) {
   field->Select();
   selection.Collapse(word::wdCollapseEnd);
   if (count) selection.TypeText(u"=" + Trim(Str(*count)));
+  return count;
 }
 
 }  // namespace lp

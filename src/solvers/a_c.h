@@ -24,8 +24,8 @@ std::optional<double> CountOf(const ACControls& controls, Prompt& prompt);
 // "运算结果：" and the count as Str writes it.
 std::u16string ACResultLabel(double count);
 
-// cmdInsert: the letter, the field, and with Check1 "=" and the count. A
-// refused input types nothing.
-void InsertAC(Session& session, const ACControls& controls);
+// cmdInsert: the letter, the field, and with Check1 "=" and the count, which
+// it returns for the label. A refused input types nothing.
+std::optional<double> InsertAC(Session& session, const ACControls& controls);
 
 }  // namespace lp

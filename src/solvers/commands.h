@@ -1,5 +1,5 @@
 #pragma once
-// The command words of the solvers that run without a dialog.
+// The command words of the solvers that run as routines.
 
 #include "session/frontend.h"
 #include "session/session.h"
@@ -9,5 +9,9 @@ namespace lp {
 // shushi: the selected sum as a column calculation at the caret; the run
 // ends when it is drawn or refused.
 void ShuShiCommand(Session& session, Frontend& ui);
+
+// a_c: a selected expression is set as a formula field; with nothing
+// selected the permutation dialog opens.
+void PermutationCommand(Session& session, Frontend& ui);
 
 }  // namespace lp

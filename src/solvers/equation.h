@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "toolkit/answers.h"
 #include "session/session.h"
+#include "toolkit/answers.h"
 
 namespace lp {
 

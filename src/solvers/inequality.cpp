@@ -108,6 +108,8 @@ void TypeInequalitySolution(Session& session, const InequalitySolution& s,
 }
 
 void DrawSolutionOnNumberLine(Session& session, const InequalitySolution& s) {
+  // The figure goes to the caret: on a line of its own, below the answer.
+  session.WordApp->Selection().TypeParagraph();
   IntervalForm form = LoadIntervalForm(session);
   IntervalControls& c = form.controls;
   double bound = Val(Format(s.ResultNumber, u"#.##"));

@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "toolkit/answers.h"
 #include "session/session.h"
+#include "toolkit/answers.h"
 
 namespace lp {
 
@@ -15,7 +15,6 @@ std::u16string InequalityLabel(const InequalitySolution& s);
 struct InequalityChoices {
   bool optAll = true;  // the steps before the answer; optKeyOnly otherwise
   bool chkSet = false;
-  bool chkNumberAxis = false;
 };
 
 // The steps (with optAll), the answer and the set (with chkSet). The number
@@ -23,7 +22,7 @@ struct InequalityChoices {
 void TypeInequalitySolution(Session& session, const InequalitySolution& s,
                             const InequalityChoices& choices);
 
-// Drives the number-line dialog unseen: its controls set from the bound and
+// Drives the number-line dialog unseen, on a new line: its controls set from the bound and
 // the sign, then its OK and its cancel, which groups the figure and writes
 // the dialog's record. After it the run ends, as the cancel of that dialog
 // always ends it.

@@ -5,6 +5,7 @@
 #include "batch/frmWordBat.h"
 #include "charts/frmSXT.h"
 #include "charts/frmZFT.h"
+#include "figures/frmInterval.h"
 #include "figures/frmSector.h"
 #include "figures/frmXDT.h"
 #include "formula/commands.h"
@@ -14,16 +15,18 @@
 #include "formula/frmRadicalExpression.h"
 #include "graph/frmGraph.h"
 #include "solvers/commands.h"
+#include "solvers/frmA_C.h"
+#include "solvers/frmEquation.h"
 #include "solvers/frmFactoring.h"
+#include "solvers/frmInequality.h"
 
 namespace lp::tools {
 namespace {
 
 constexpr std::array kRoutines{
-    RoutineBinding{u"test", &TestCommand},
-    RoutineBinding{u"mhgs", &MhgsCommand},
-    RoutineBinding{u"gs", &GsCommand},
-    RoutineBinding{u"shushi", &ShuShiCommand},
+    RoutineBinding{u"test", &TestCommand},       RoutineBinding{u"mhgs", &MhgsCommand},
+    RoutineBinding{u"gs", &GsCommand},           RoutineBinding{u"shushi", &ShuShiCommand},
+    RoutineBinding{u"a_c", &PermutationCommand},
 };
 
 const std::array kForms{
@@ -38,6 +41,10 @@ const std::array kForms{
     FormBinding{u"frmAngle2Radian", &ui::MakeForm<frmAngle2Radian>},
     FormBinding{u"frmFraction", &ui::MakeForm<frmFraction>},
     FormBinding{u"frmRadicalExpression", &ui::MakeForm<frmRadicalExpression>},
+    FormBinding{u"frmInterval", &ui::MakeForm<frmInterval>},
+    FormBinding{u"frmInequality", &ui::MakeForm<frmInequality>},
+    FormBinding{u"frmEquation", &ui::MakeForm<frmEquation>},
+    FormBinding{u"frmA_C", &ui::MakeForm<frmA_C>},
 };
 
 }  // namespace

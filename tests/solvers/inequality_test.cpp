@@ -51,12 +51,12 @@ TEST_F(Inequality, WorkedSolutionsOfTheStatedCases) {
   };
   for (const Row& r : rows) {
     Reopen();
-    EXPECT_EQ(Solve(r.text, {true, true, false}), r.typed) << r.name;
+    EXPECT_EQ(Solve(r.text, {true, true}), r.typed) << r.name;
   }
 }
 
 TEST_F(Inequality, KeyOnlyTypesTheAnswerAlone) {
-  EXPECT_EQ(Solve(u"2x-4>0", {false, false, false}), " x>2\n");
+  EXPECT_EQ(Solve(u"2x-4>0", {false, false}), " x>2\n");
 }
 
 TEST_F(Inequality, LabelShowsTheSolution) {

@@ -90,7 +90,7 @@ TEST_F(RandomSolutions, LinearInequalitiesAgreeWithWholeNumberArithmetic) {
     Reopen();
     std::optional<InequalitySolution> s = ParseInequality(FromUtf8(text), prompt);
     ASSERT_TRUE(s) << text;
-    TypeInequalitySolution(*session, *s, {false, false, false});
+    TypeInequalitySolution(*session, *s, {false, false});
     std::string typed = Text();
     // (a - c) x op d - b: the bound is (d - b) / (a - c), the sign turns with a negative slope.
     int slope = a - c, rest = d - b;

@@ -88,6 +88,11 @@ void DocumentSettings::Load() {
   if (IsOn("w:embedTrueTypeFonts")) doNotEmbedSystemFonts_ = !IsOn("w:embedSystemFonts");
 }
 
+bool DocumentSettings::EmbedsTrueTypeFonts() {
+  Load();
+  return IsOn("w:embedTrueTypeFonts");
+}
+
 bool DocumentSettings::IsOn(const char* name) const {
   pugi::xml_node e = Root().child(name);
   if (!e) return false;

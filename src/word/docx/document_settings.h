@@ -16,6 +16,7 @@ class DocumentSettings {
   DocumentSettings(Package& package, std::string mainPart);
 
   void SetEmbedTrueTypeFonts(bool on);
+  bool EmbedsTrueTypeFonts();
   void SetSaveSubsetFonts(bool on);
   void SetDoNotEmbedSystemFonts(bool on);
   // The attached template's path (UTF-8); empty when none is attached.

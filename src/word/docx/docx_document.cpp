@@ -7,6 +7,7 @@
 
 #include "runtime/utf8.h"
 #include "word/docx/docx_error.h"
+#include "word/docx/embedded_fonts.h"
 #include "word/docx/relationships.h"
 #include "word/docx/selection.h"
 #include "word/docx/xml_part.h"
@@ -214,6 +215,8 @@ bool DocxDocument::SaveIfChanged() {
 
 void DocxDocument::SaveTo(const std::filesystem::path& file) {
   if (changed_) package_.Write(mainPart_, SerializeXml(xml_));
+  if (!fontFolder_.empty() && settings_->EmbedsTrueTypeFonts())
+    EmbedUsedFonts(package_, mainPart_, xml_, fontFolder_);
   if (coreChanged_) package_.Write("docProps/core.xml", SerializeXml(coreXml_));
   package_.SaveTo(file);
   changed_ = coreChanged_ = partsChanged_ = false;

@@ -76,6 +76,10 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   void SaveAs(const Text& path) override;
   void Close(bool saveChanges) override;
 
+  // Where the fonts this machine can embed lie: NAME.ttf is the font NAME.
+  // With "embed TrueType fonts" on, a save embeds those the document uses.
+  void SetFontFolder(std::filesystem::path folder) { fontFolder_ = std::move(folder); }
+
   // DocxHost
   pugi::xml_document& DocumentXml() override { return xml_; }
   pugi::xml_node CaretParagraph() override;
@@ -146,6 +150,7 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   mutable bool coreLoaded_ = false;
   bool coreChanged_ = false;
   std::unique_ptr<DocumentSettings> settings_;
+  std::filesystem::path fontFolder_;
   StyleSheet styles_;
   std::shared_ptr<Story> main_;
   std::map<const void*, std::shared_ptr<Story>> boxes_;
