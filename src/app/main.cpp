@@ -82,6 +82,12 @@ class Run {
       status_ = kExitUsage;
       return false;
     }
+    if (options_.haveSelectShape &&
+        !SelectShape(*session_.WordApp, FromUtf8(options_.selectShape))) {
+      Complain("--select-shape: the document has no shape named " + options_.selectShape);
+      status_ = kExitUsage;
+      return false;
+    }
     return true;
   }
 

@@ -1,6 +1,7 @@
 #pragma once
 // The command line of lumenpad:
-//   lumenpad WORD [--doc FILE] [--select TEXT] [--set NAME=VALUE]... [--click NAME]...
+//   lumenpad WORD [--doc FILE] [--select TEXT] [--select-shape NAME] [--set NAME=VALUE]... [--click
+//   NAME]...
 //            [--grab FILE.png]... [--answer VALUE]... [--config PATH]
 // Everything that is not an option is the command text, joined by blanks.
 
@@ -22,6 +23,8 @@ struct RunOptions {
   std::string doc;
   std::string select;
   bool haveSelect = false;
+  std::string selectShape;  // the start of a floating shape's name
+  bool haveSelectShape = false;
   std::vector<ControlAction> actions;
   std::vector<std::string> answers;
   std::string config;
