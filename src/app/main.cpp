@@ -88,6 +88,12 @@ class Run {
       return false;
     }
     if (options_.caretOnly) session_.WordApp->Selection().Delete();
+    if (options_.haveSelectShape &&
+        !SelectShape(*session_.WordApp, FromUtf8(options_.selectShape))) {
+      Complain("--select-shape: the document has no shape named " + options_.selectShape);
+      status_ = kExitUsage;
+      return false;
+    }
     return true;
   }
 

@@ -63,6 +63,7 @@ frmGraph::frmGraph(Session& session) : ui::Form(session) {
   OnClick(cmdCancel, u"cmdCancel_Click", [this] { close(); });
   Connect();
   Load();
+  ReopenSelectedGraph();
 }
 
 QWidget* frmGraph::BuildTab(const graph::GraphTab& tab) {

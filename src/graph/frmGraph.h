@@ -17,6 +17,7 @@
 
 #include "graph/axes.h"
 #include "graph/frmGraph_tabs.h"
+#include "graph/reedit.h"
 #include "graph/session.h"
 #include "ui/form.h"
 
@@ -42,6 +43,7 @@ class frmGraph : public ui::Form {
   void Connect();
 
   void Load();
+  void ReopenSelectedGraph();
   void RedrawPreview();
   void ApplyScale();
   void ChangeLength(int axis, int length);
@@ -83,6 +85,7 @@ class frmGraph : public ui::Form {
   QPushButton *cmdChange, *cmdOK;
   QListWidget* List1;
   std::array<int, 2> lengths_{10, 10};
+  std::optional<graph::PlacedGraph> reopened_;  // the group this dialog replaces
   bool loading_ = false;
 };
 

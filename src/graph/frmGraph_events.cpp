@@ -2,6 +2,7 @@
 // view controls and the insertion.
 #include <QAbstractButton>
 #include <QColorDialog>
+#include <algorithm>
 
 #include "graph/canvas.h"
 #include "graph/frmGraph.h"
@@ -101,6 +102,34 @@ void frmGraph::Load() {
   graph_.Load(LineSettings());
   for (int tab = 0; tab < SSTab1->count(); ++tab) ResetTab(tab);
   loading_ = false;
+  ApplyScale();
+  RedrawPreview();
+}
+
+// With a graph of ours selected, the dialog opens on it: list, view and
+// switches as they were when it was inserted.
+void frmGraph::ReopenSelectedGraph() {
+  reopened_ = graph::SelectedGraph(session_, graph_);
+  if (!reopened_) return;
+  const graph::View& v = graph_.Range();
+  lengths_ = {static_cast<int>(v.xmax - v.xmin), static_cast<int>(v.ymax - v.ymin)};
+  const std::vector<std::u16string>& list = graph_.List();
+  auto listed = [&list](const char16_t* line) {
+    return std::find(list.begin(), list.end(), line) != list.end();
+  };
+  for (QObject* control :
+       std::initializer_list<QObject*>{chkDrawScale, chkNoCoordinate, chkWG, udLenOfAxis[0],
+                                       udLenOfAxis[1], txtLenOfAxis_x, txtLenOfAxis_y})
+    control->blockSignals(true);
+  chkDrawScale->setChecked(graph_.Axes().drawScale);
+  chkNoCoordinate->setChecked(!listed(graph::kAxesLine));
+  chkWG->setChecked(listed(graph::kGridLine));
+  optXTSZ[2]->setEnabled(chkWG->isChecked());
+  for (int axis = 0; axis < 2; ++axis) SyncLengthText(axis);
+  for (QObject* control :
+       std::initializer_list<QObject*>{chkDrawScale, chkNoCoordinate, chkWG, udLenOfAxis[0],
+                                       udLenOfAxis[1], txtLenOfAxis_x, txtLenOfAxis_y})
+    control->blockSignals(false);
   ApplyScale();
   RedrawPreview();
 }
@@ -268,7 +297,9 @@ void frmGraph::PickColour() {
 
 void frmGraph::cmdOK_Click() {
   setWindowTitle(QStringLiteral("正在绘制函数图像，请稍候 :-)"));
-  graph::InsertScene(session_, graph::BuildScene(graph_, options_), graph_.Range());
+  // A reopened graph is replaced in place; a new one goes to the caret.
+  graph::PlacedGraph placed = graph::InsertGraph(session_, graph_, reopened_);
+  if (reopened_) reopened_ = placed;
   setWindowTitle(QStringLiteral("图像插入Word已经完成！"));
   session_.WordApp->SetScreenUpdating(true);
 }

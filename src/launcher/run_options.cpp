@@ -50,6 +50,9 @@ RunOptions ParseRunOptions(const std::vector<std::string>& args) {
     } else if (a == "--caret") {
       o.select = value();
       o.haveSelect = o.caretOnly = true;
+    } else if (a == "--select-shape") {
+      o.selectShape = value();
+      o.haveSelectShape = true;
     } else if (a == "--set") {
       const std::string& v = value();
       size_t eq = v.find('=');

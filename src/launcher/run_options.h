@@ -1,7 +1,7 @@
 #pragma once
 // The command line of lumenpad:
-//   lumenpad WORD [--doc FILE] [--select TEXT | --caret TEXT] [--set NAME=VALUE]... [--click
-//   NAME]...
+//   lumenpad WORD [--doc FILE] [--select TEXT | --caret TEXT] [--select-shape NAME]
+//            [--set NAME=VALUE]... [--click NAME]...
 //            [--grab FILE.png]... [--answer VALUE]... [--config PATH]
 //   lumenpad --help
 // Everything that is not an option is the command text, joined by blanks.
@@ -25,6 +25,8 @@ struct RunOptions {
   std::string select;
   bool haveSelect = false;
   bool caretOnly = false;  // --caret: the found text is removed, the caret stays there
+  std::string selectShape;  // the start of a floating shape's name
+  bool haveSelectShape = false;
   std::vector<ControlAction> actions;
   std::vector<std::string> answers;
   std::string config;

@@ -18,4 +18,15 @@ bool SelectFirst(word::Application& app, const word::Text& text) {
   return true;
 }
 
+bool SelectShape(word::Application& app, const word::Text& prefix) {
+  word::Shapes& shapes = app.ActiveDocument().Shapes();
+  for (long i = 1; i <= shapes.Count(); ++i) {
+    std::unique_ptr<word::Shape> shape = shapes.Item(i);
+    if (shape->Name().rfind(prefix, 0) != 0) continue;
+    shape->Select();
+    return true;
+  }
+  return false;
+}
+
 }  // namespace lp

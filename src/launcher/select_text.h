@@ -9,4 +9,8 @@ namespace lp {
 // false when the document doesn't hold it.
 bool SelectFirst(word::Application& app, const word::Text& text);
 
+// --select-shape: selects the first floating shape whose name begins with
+// prefix, as a click on a figure does; false when there is none.
+bool SelectShape(word::Application& app, const word::Text& prefix);
+
 }  // namespace lp

@@ -6,6 +6,7 @@
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -51,6 +52,8 @@ bool SetControl(QWidget& w, const QString& value) {
     bar->setValue(value.toInt());
   } else if (auto* tabs = qobject_cast<QTabWidget*>(&w)) {
     tabs->setCurrentIndex(value.toInt());
+  } else if (auto* list = qobject_cast<QListWidget*>(&w)) {
+    list->setCurrentRow(value.toInt());
   } else if (auto* l = qobject_cast<QLabel*>(&w)) {
     l->setText(value);
   } else {

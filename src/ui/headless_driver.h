@@ -16,8 +16,8 @@ class DriverError : public std::runtime_error {
 };
 
 // Text boxes take the text, check boxes and option buttons 1 or 0, combo
-// boxes an index or an item's text, spin boxes and scroll bars a number. Raises DriverError
-// for a control the dialog doesn't have or a value it can't take.
+// boxes an index or an item's text, spin boxes and scroll bars a number, lists the row to select
+// (from 0). Raises DriverError for a control the dialog doesn't have or a value it can't take.
 void ApplyAction(QWidget& form, const ControlAction& action);
 
 }  // namespace lp::ui

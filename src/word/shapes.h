@@ -95,6 +95,11 @@ class Shape {
   virtual void SetRelativeHorizontalPosition(WdRelativeHorizontalPosition to) = 0;
   virtual void SetRelativeVerticalPosition(WdRelativeVerticalPosition to) = 0;
   virtual void Delete() = 0;
+  // The shape's alternative text (Word's AlternativeText). Added later than
+  // the members above: back ends that lack it answer as Word does for a
+  // member an object does not have.
+  virtual Text AlternativeText() const { NotSupported(); }
+  virtual void SetAlternativeText(const Text&) { NotSupported(); }
 };
 
 class ShapeRange : public Shape {

@@ -196,6 +196,30 @@ graph_lines)
     --click cmdOK --click cmdCancel
   has_shapes t.docx 直线 点 A点标注 标示横坐标的虚线 标示纵坐标的虚线
   ;;
+graph_reedit)
+  # Insert, move the group by hand, reopen it by selecting it, change the
+  # circle, insert: one group remains where it was moved, with the change.
+  run functiongraph --doc t.docx --set txtExp="x^2-2*x" --set txtXmin_Any=-1 --set txtXmax_Any=3 \
+    --click cmdOK_Any --set optType_Y_0=1 --set txtY_0=2 --click cmdOK_Y --click cmdOK --click cmdCancel
+  python3 - t.docx <<'PY'
+import re, sys, zipfile
+path = sys.argv[1]
+parts = {n: zipfile.ZipFile(path).read(n) for n in zipfile.ZipFile(path).namelist()}
+xml = parts["word/document.xml"].decode()
+xml = re.sub(r'(<wp:positionH relativeFrom="page"><wp:posOffset>)\d+', r'\g<1>2000000', xml, count=1)
+parts["word/document.xml"] = xml.encode()
+with zipfile.ZipFile(path, "w", zipfile.ZIP_DEFLATED) as z:
+    for name, data in parts.items():
+        z.writestr(name, data)
+PY
+  run functiongraph --doc t.docx --select-shape 组合 --click cmdChange --set List1=2 --set txtY_0=3 \
+    --click cmdOK_Y --click cmdOK --click cmdCancel
+  [[ "$(anchors t.docx)" == 1 ]] || fail "the old group was not replaced"
+  body t.docx | grep -q '<wp:positionH relativeFrom="page"><wp:posOffset>2000000<' ||
+    fail "the new group is not where the old one was moved"
+  body t.docx | grep -q 'txtY_0=3' || fail "the change is not in the saved graph"
+  [[ "$(body t.docx | grep -o 'name="任意函数：' | wc -l)" == 1 ]] || fail "the curve is not kept once"
+  ;;
 graph_refused)
   run functiongraph --doc t.docx --click cmdOK --click cmdCancel
   cp t.docx before.docx

@@ -2,6 +2,7 @@
 // that the list draws.
 #include <gtest/gtest.h>
 
+#include "graph/reedit.h"
 #include "graph/scene.h"
 #include "graph/session.h"
 #include "runtime/convert.h"
@@ -72,6 +73,37 @@ TEST(Session, SingletonsTakeTheirOrderFromTheSwitches) {
   EXPECT_EQ(scene.labels.plainX.size(), 8u);  // the point's 2 doubles the axis number
   s.ClearList();
   EXPECT_TRUE(BuildScene(s, AxisOptions{}).entries.empty());
+}
+
+TEST(Session, SavedGraphOpensAgain) {
+  GraphSession s;
+  s.SetRange({-8, 8, -6, 6});
+  s.Axes().drawScale = true;
+  s.ShowGrid(true, Look{3, 0.5f, 0xC0C0C0});
+  FormState circle = {{u"optType_Y_1", u"1"},
+                      {u"txtY_0", u"1"},
+                      {u"txtY_1", u"-1"},
+                      {u"txtY_2", u"2"},
+                      {u"chkCentreOfCircle", u"1"}};
+  s.Confirm(u"yuan", {Look{2, 1.5f, 0xFF}, CircleParams{1, -1, 4, true}, circle});
+  s.Confirm(u"point", Point(3));  // no typed texts: it can't be read again
+  s.DeleteLine(0);
+  s.ShowAxes(true);
+
+  GraphSession reopened;
+  ASSERT_TRUE(RestoreGraph(SaveGraph(s), reopened));
+  EXPECT_EQ(reopened.List(), (std::vector<std::u16string>{kGridLine, u"圆(Yuan) 0", kAxesLine}));
+  EXPECT_EQ(reopened.Range().xmin, -8);
+  EXPECT_TRUE(reopened.Axes().drawScale);
+  EXPECT_EQ(reopened.Grid().color, 0xC0C0C0);
+  const GraphObject* c = reopened.Record({u"yuan", 0});
+  ASSERT_NE(c, nullptr);
+  EXPECT_EQ(c->look.style, 2);
+  EXPECT_EQ(c->look.color, 0xFF);
+  EXPECT_EQ(std::get<CircleParams>(c->params).r2, 4);
+  EXPECT_EQ(c->texts, circle);
+  EXPECT_FALSE(RestoreGraph(u"a picture's own description", reopened));
+  EXPECT_EQ(reopened.List().size(), 3u);  // untouched
 }
 
 }  // namespace

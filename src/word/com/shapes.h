@@ -99,6 +99,8 @@ class ShapeImpl : public Base, public ComNode {
 
   word::Text Name() const override { return Get(L"Name").ToText(); }
   void SetName(const word::Text& name) override { Put(L"Name", name); }
+  word::Text AlternativeText() const override { return Get(L"AlternativeText").ToText(); }
+  void SetAlternativeText(const word::Text& text) override { Put(L"AlternativeText", text); }
   MsoShapeType Type() const override { return static_cast<MsoShapeType>(Get(L"Type").ToLong()); }
   float Left() const override { return Get(L"Left").ToFloat(); }
   void SetLeft(float points) override { Put(L"Left", points); }

@@ -24,6 +24,7 @@ using SharedText = std::shared_ptr<Text>;
 struct ShapeState {
   long serial = 0;  // the shape is Shape<serial> in the records
   Text name;
+  Text alternativeText;
   MsoShapeType type = msoAutoShape;
   float left = 0, top = 0, width = 0, height = 0;
   SharedText text = std::make_shared<Text>();

@@ -50,6 +50,12 @@ void ShapeImpl<Base>::SetName(const word::Text& name) {
 }
 
 template <class Base>
+void ShapeImpl<Base>::SetAlternativeText(const word::Text& text) {
+  Record(path_ + ".AlternativeText=" + Arg(text));
+  for (auto& shape : targets_) shape->alternativeText = text;
+}
+
+template <class Base>
 void ShapeImpl<Base>::SetEach(const std::string& member, float points, float ShapeState::*field) {
   Record(path_ + "." + member + "=" + Arg(points));
   for (auto& shape : targets_) (*shape).*field = points;

@@ -124,6 +124,8 @@ class ShapeImpl : public Base, public Node {
     Put("RelativeVerticalPosition", static_cast<long>(to));
   }
   void Delete() override;
+  word::Text AlternativeText() const override { return First().alternativeText; }
+  void SetAlternativeText(const word::Text& text) override;
 
  protected:
   const ShapeState& First() const;

@@ -87,6 +87,14 @@ void SetNameOf(pugi::xml_node anchor, const Text& name) {
   SetAttr(anchor.child("wp:docPr"), "name", lp::ToUtf8(name).c_str());
 }
 
+Text DescriptionOf(pugi::xml_node anchor) {
+  return lp::FromUtf8(anchor.child("wp:docPr").attribute("descr").value());
+}
+
+void SetDescriptionOf(pugi::xml_node anchor, const Text& text) {
+  SetAttr(anchor.child("wp:docPr"), "descr", lp::ToUtf8(text).c_str());
+}
+
 std::int64_t OffsetOf(pugi::xml_node anchor, Axis axis) {
   return std::strtoll(anchor.child(AxisElement(axis)).child_value("wp:posOffset"), nullptr, 10);
 }

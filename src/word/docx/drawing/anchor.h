@@ -30,6 +30,9 @@ std::vector<pugi::xml_node> WspsOf(pugi::xml_node anchor);
 MsoShapeType TypeOf(pugi::xml_node anchor);
 Text NameOf(pugi::xml_node anchor);
 void SetNameOf(pugi::xml_node anchor, const Text& name);
+// The alternative text: the descr attribute of wp:docPr.
+Text DescriptionOf(pugi::xml_node anchor);
+void SetDescriptionOf(pugi::xml_node anchor, const Text& text);
 
 enum class Axis { kHorizontal, kVertical };
 // The offset of wp:positionH or wp:positionV; 0 when the shape is aligned.

@@ -56,6 +56,13 @@ void AnchorRange::SetName(const Text& name) {
   EachAnchor([&name](pugi::xml_node anchor) { SetNameOf(anchor, name); });
 }
 
+Text AnchorRange::AlternativeText() const {
+  return DescriptionOf(shapes_.First());
+}
+void AnchorRange::SetAlternativeText(const Text& text) {
+  EachAnchor([&text](pugi::xml_node anchor) { SetDescriptionOf(anchor, text); });
+}
+
 MsoShapeType AnchorRange::Type() const {
   return TypeOf(shapes_.First());
 }

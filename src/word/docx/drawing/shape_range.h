@@ -35,6 +35,8 @@ class AnchorRange : public ShapeRange {
   void SetRelativeHorizontalPosition(WdRelativeHorizontalPosition to) override;
   void SetRelativeVerticalPosition(WdRelativeVerticalPosition to) override;
   void Delete() override;
+  Text AlternativeText() const override;
+  void SetAlternativeText(const Text& text) override;
 
   long Count() const override;
   std::unique_ptr<Shape> Item(long index) override;
