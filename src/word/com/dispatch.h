@@ -5,9 +5,11 @@
 // expect (Word's own error number where Word gives one).
 
 #include <windows.h>
-// The Word API has its own RGB and a GetObject of its own meaning.
+// The Word API has its own RGB, a GetObject of its own meaning, and
+// AutoCorrect's ReplaceText.
 #undef RGB
 #undef GetObject
+#undef ReplaceText
 
 #include <initializer_list>
 #include <string>
