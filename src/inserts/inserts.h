@@ -7,7 +7,7 @@
 #include <string>
 
 #include "formula/driver.h"
-#include "word/session.h"
+#include "session/session.h"
 
 namespace lp {
 

@@ -3,7 +3,7 @@
 #include <numeric>
 
 #include "inserts/shape_tools.h"
-#include "word/figure.h"
+#include "session/figure.h"
 
 namespace lp {
 namespace {

@@ -3,8 +3,8 @@
 #include <optional>
 
 #include "inserts/field_steps.h"
-#include "launcher/browse_my_site.h"
 #include "runtime/text.h"
+#include "session/web_address.h"
 #include "settings/database.h"
 
 namespace lp {

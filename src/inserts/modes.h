@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "word/session.h"
+#include "session/session.h"
 
 namespace lp {
 

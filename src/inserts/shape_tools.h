@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "word/session.h"
+#include "session/session.h"
 
 namespace lp {
 

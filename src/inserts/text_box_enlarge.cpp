@@ -1,5 +1,5 @@
 #include "inserts/shape_tools.h"
-#include "word/figure.h"
+#include "session/figure.h"
 
 namespace lp {
 namespace {

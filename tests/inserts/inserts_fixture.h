@@ -9,7 +9,7 @@
 
 #include "runtime/recording_prompt.h"
 #include "word/docx/docx_application.h"
-#include "word/session.h"
+#include "session/session.h"
 
 namespace lp::testing {
 
