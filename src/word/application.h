@@ -17,7 +17,8 @@ class AutoCorrect {
   virtual ~AutoCorrect() = default;
   virtual bool CorrectSentenceCaps() const = 0;
   virtual void SetCorrectSentenceCaps(bool on) = 0;
-  virtual bool ReplaceText() const = 0;
+  // Word's ReplaceText, named apart from the Windows macro of that name.
+  virtual bool ReplaceTextOn() const = 0;
   virtual void SetReplaceText(bool on) = 0;
 };
 

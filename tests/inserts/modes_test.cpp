@@ -68,7 +68,7 @@ TEST(Modes, ThroughWordTheCaptionDecides) {
   word.Set(caption, u"文字模式");
   ToggleFormulaMode(session);
   EXPECT_FALSE(word.AutoCorrect().CorrectSentenceCaps());
-  EXPECT_TRUE(word.AutoCorrect().ReplaceText());
+  EXPECT_TRUE(word.AutoCorrect().ReplaceTextOn());
   EXPECT_EQ(word.CommandBars().ControlCaption(ModeToolbarName(), 7), u"公式模式");
 }
 
@@ -106,12 +106,12 @@ TEST(DocxModes, FormulaModeTogglesTheAutoCorrectOptions) {
   ToggleFormulaMode(doc.Run());
   EXPECT_EQ(app.CommandBars().ControlCaption(ModeToolbarName(), 7), u"文字模式");
   EXPECT_TRUE(app.AutoCorrect().CorrectSentenceCaps());
-  EXPECT_FALSE(app.AutoCorrect().ReplaceText());
+  EXPECT_FALSE(app.AutoCorrect().ReplaceTextOn());
   doc.Reopen();
   ToggleFormulaMode(doc.Run());
   EXPECT_EQ(doc.App().CommandBars().ControlCaption(ModeToolbarName(), 7), u"公式模式");
   EXPECT_FALSE(doc.App().AutoCorrect().CorrectSentenceCaps());
-  EXPECT_TRUE(doc.App().AutoCorrect().ReplaceText());
+  EXPECT_TRUE(doc.App().AutoCorrect().ReplaceTextOn());
 }
 
 TEST(DocxHotKeys, BindingLandsOnceInTheAttachedTemplate) {

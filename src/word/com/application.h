@@ -17,7 +17,7 @@ class ComAutoCorrect : public AutoCorrect, public ComNode {
   using ComNode::ComNode;
   bool CorrectSentenceCaps() const override { return Get(L"CorrectSentenceCaps").ToBool(); }
   void SetCorrectSentenceCaps(bool on) override { Put(L"CorrectSentenceCaps", on); }
-  bool ReplaceText() const override { return Get(L"ReplaceText").ToBool(); }
+  bool ReplaceTextOn() const override { return Get(L"ReplaceText").ToBool(); }
   void SetReplaceText(bool on) override { Put(L"ReplaceText", on); }
 };
 

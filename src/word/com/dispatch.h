@@ -5,11 +5,9 @@
 // expect (Word's own error number where Word gives one).
 
 #include <windows.h>
-// The Word API has its own RGB, a GetObject of its own meaning, and
-// AutoCorrect's ReplaceText.
+// The Word API has its own RGB and a GetObject of its own meaning.
 #undef RGB
 #undef GetObject
-#undef ReplaceText
 
 #include <initializer_list>
 #include <string>

@@ -105,7 +105,7 @@ class Corrections : public word::AutoCorrect {
   explicit Corrections(AppState& state) : state_(state) {}
   bool CorrectSentenceCaps() const override { return state_.Option("CorrectSentenceCaps", true); }
   void SetCorrectSentenceCaps(bool on) override { state_.SetOption("CorrectSentenceCaps", on); }
-  bool ReplaceText() const override { return state_.Option("ReplaceText", true); }
+  bool ReplaceTextOn() const override { return state_.Option("ReplaceText", true); }
   void SetReplaceText(bool on) override { state_.SetOption("ReplaceText", on); }
 
  private:

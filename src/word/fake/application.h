@@ -17,7 +17,7 @@ class FakeAutoCorrect : public AutoCorrect, public Node {
   using Node::Node;
   bool CorrectSentenceCaps() const override { return Number("CorrectSentenceCaps", -1) != 0; }
   void SetCorrectSentenceCaps(bool on) override { Put("CorrectSentenceCaps", on); }
-  bool ReplaceText() const override { return Number("ReplaceText", -1) != 0; }
+  bool ReplaceTextOn() const override { return Number("ReplaceText", -1) != 0; }
   void SetReplaceText(bool on) override { Put("ReplaceText", on); }
 };
 
