@@ -27,8 +27,9 @@ class NoWord : public BackEnd, public WordConnector {
 // A .docx file: its application is the running Word, with the file open.
 class DocxFile : public BackEnd, public WordConnector {
  public:
-  explicit DocxFile(const std::string& path)
+  DocxFile(const std::string& path, const std::string& statePath)
       : app_(word::docx::OpenDocxForEditing(std::filesystem::u8path(path))) {
+    app_->SetStateFile(std::filesystem::u8path(statePath));
     // TeX typed for the formula tools becomes a native equation.
     app_->SetTexConverter([](const std::u16string& tex) { return LatexToOmml(tex); });
     // The program's own fonts lie beside it, as they are installed.
@@ -58,12 +59,12 @@ class ComWord : public BackEnd {
 
 }  // namespace
 
-std::unique_ptr<BackEnd> MakeBackEnd(const std::string& docPath) {
+std::unique_ptr<BackEnd> MakeBackEnd(const std::string& docPath, const std::string& statePath) {
 #ifdef _WIN32
   if (docPath.empty()) return std::make_unique<ComWord>();
 #endif
   if (docPath.empty()) return std::make_unique<NoWord>();
-  return std::make_unique<DocxFile>(docPath);
+  return std::make_unique<DocxFile>(docPath, statePath);
 }
 
 }  // namespace lp

@@ -18,7 +18,9 @@ class BackEnd {
   virtual void SaveIfChanged() = 0;
 };
 
-// Raises the back end's typed error for a file it refuses to open.
-std::unique_ptr<BackEnd> MakeBackEnd(const std::string& docPath);
+// Raises the back end's typed error for a file it refuses to open. A .docx
+// file's Word keeps its toolbar captions, options and key bindings in the
+// file statePath (UTF-8).
+std::unique_ptr<BackEnd> MakeBackEnd(const std::string& docPath, const std::string& statePath);
 
 }  // namespace lp

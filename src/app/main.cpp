@@ -153,7 +153,10 @@ int Main(const std::vector<std::string>& args) {
       std::fputs(UsageText().c_str(), stdout);
       return 0;
     }
-    backEnd = MakeBackEnd(options.doc);
+    // Word's own state of the .docx engine lives beside the settings.
+    const std::string database = DatabasePath(options.config, ProgramFolder());
+    const size_t folderEnd = database.find_last_of("/\\") + 1;  // 0 without a folder
+    backEnd = MakeBackEnd(options.doc, database.substr(0, folderEnd) + "word_state.xml");
   } catch (const UsageError& e) {
     Complain(e.what());
     return 2;

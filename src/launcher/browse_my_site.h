@@ -4,11 +4,9 @@
 #include <string>
 
 #include "session/session.h"
+#include "session/web_address.h"
 
 namespace lp {
-
-// The program's web address, as the messages name it.
-inline constexpr char16_t kWebAddress[] = u"https://lumenpad.example";
 
 // The companion beside the executable.
 std::string CompanionPath(const std::u16string& programFolder);

@@ -14,6 +14,7 @@
 #include "formula/frmGS.h"
 #include "formula/frmRadicalExpression.h"
 #include "graph/frmGraph.h"
+#include "inserts/commands.h"
 #include "solvers/commands.h"
 #include "solvers/frmA_C.h"
 #include "solvers/frmEquation.h"
@@ -24,9 +25,28 @@ namespace lp::tools {
 namespace {
 
 constexpr std::array kRoutines{
-    RoutineBinding{u"test", &TestCommand},       RoutineBinding{u"mhgs", &MhgsCommand},
-    RoutineBinding{u"gs", &GsCommand},           RoutineBinding{u"shushi", &ShuShiCommand},
+    RoutineBinding{u"test", &TestCommand},
+    RoutineBinding{u"mhgs", &MhgsCommand},
+    RoutineBinding{u"gs", &GsCommand},
+    RoutineBinding{u"shushi", &ShuShiCommand},
     RoutineBinding{u"a_c", &PermutationCommand},
+    RoutineBinding{u"group", &GroupCommand},
+    RoutineBinding{u"fcz", &EquationSystemCommand},
+    RoutineBinding{u"xl", &VectorCommand},
+    RoutineBinding{u"hu", &ArcCommand},
+    RoutineBinding{u"gsms", &FormulaModeCommand},
+    RoutineBinding{u"htms", &DrawingModeCommand},
+    RoutineBinding{u"fraction", &FractionCommand},
+    RoutineBinding{u"radicalexpression", &RadicalExpressionCommand},
+    RoutineBinding{u"enlarge", &EnlargeCommand},
+    RoutineBinding{u"recurringdecimal", &RecurringDecimalCommand},
+    RoutineBinding{u"drawcenter", &DrawCenterCommand},
+    RoutineBinding{u"sethotkey", &SetHotKeyCommand},
+    RoutineBinding{u"join_lr", &JoinLRCommand},
+    RoutineBinding{u"join_ud", &JoinUDCommand},
+    RoutineBinding{u"wbk_b", &BlankBoxCommand},
+    RoutineBinding{u"wbk_y", &YesBoxCommand},
+    RoutineBinding{u"wbk_n", &NoBoxCommand},
 };
 
 const std::array kForms{

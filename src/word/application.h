@@ -15,27 +15,17 @@ class Options {
 class AutoCorrect {
  public:
   virtual ~AutoCorrect() = default;
+  virtual bool CorrectSentenceCaps() const = 0;
   virtual void SetCorrectSentenceCaps(bool on) = 0;
+  // Word's ReplaceText, named apart from the Windows macro of that name.
+  virtual bool ReplaceTextOn() const = 0;
+  virtual void SetReplaceText(bool on) = 0;
 };
 
 class AddIns {
  public:
   virtual ~AddIns() = default;
   virtual void Add(const Text& fileName, bool install) = 0;
-};
-
-class AutoTextEntry {
- public:
-  virtual ~AutoTextEntry() = default;
-  virtual void Insert(Range& where, bool richText) = 0;
-  virtual void Delete() = 0;
-};
-
-class AutoTextEntries {
- public:
-  virtual ~AutoTextEntries() = default;
-  virtual void Add(const Text& name, Range& range) = 0;
-  virtual std::unique_ptr<AutoTextEntry> Item(const Text& name) = 0;
 };
 
 class NormalTemplate {
@@ -52,11 +42,12 @@ class CommandBars {
   virtual void SetControlCaption(const Text& bar, long index, const Text& caption) = 0;
 };
 
-// A key binding of the normal template: a key code bound to a macro.
+// The key bindings of the customization context: a key code bound to a
+// command of a category (wdKeyCategoryMacro: a macro by name).
 class KeyBindings {
  public:
   virtual ~KeyBindings() = default;
-  virtual void Add(long keyCode, const Text& macroName) = 0;
+  virtual void Add(WdKeyCategory category, const Text& command, long keyCode) = 0;
 };
 
 class Application {
@@ -74,6 +65,14 @@ class Application {
   virtual word::AddIns& AddIns() = 0;
   virtual word::CommandBars& CommandBars() = 0;
   virtual word::KeyBindings& KeyBindings() = 0;
+  // Where KeyBindings.Add puts a binding: a template.
+  virtual void SetCustomizationContext(Template& context) = 0;
+  // Up to four parts (wdKeyControl, wdKeyAlt, a key's code ...) as one code.
+  virtual long BuildKeyCode(long key1, long key2 = wdNoKey, long key3 = wdNoKey,
+                            long key4 = wdNoKey) = 0;
+  // FindKey(code).Command: what the key runs in the customization context,
+  // empty when it runs nothing of its own.
+  virtual Text FindKeyCommand(long keyCode) = 0;
   virtual word::Options& Options() = 0;
   virtual word::AutoCorrect& AutoCorrect() = 0;
   virtual word::NormalTemplate& NormalTemplate() = 0;

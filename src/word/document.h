@@ -25,10 +25,25 @@ class Bookmarks {
   virtual std::unique_ptr<Range> Item(const Text& name) = 0;
 };
 
+class AutoTextEntry {
+ public:
+  virtual ~AutoTextEntry() = default;
+  virtual void Insert(Range& where, bool richText) = 0;
+  virtual void Delete() = 0;
+};
+
+class AutoTextEntries {
+ public:
+  virtual ~AutoTextEntries() = default;
+  virtual void Add(const Text& name, Range& range) = 0;
+  virtual std::unique_ptr<AutoTextEntry> Item(const Text& name) = 0;
+};
+
 class Template {
  public:
   virtual ~Template() = default;
   virtual Text FullName() const = 0;
+  virtual word::AutoTextEntries& AutoTextEntries() = 0;
 };
 
 class Document {
@@ -46,7 +61,9 @@ class Document {
   virtual void SetEmbedTrueTypeFonts(bool on) = 0;
   virtual void SetSaveSubsetFonts(bool on) = 0;
   virtual void SetDoNotEmbedSystemFonts(bool on) = 0;
+  virtual bool SnapToGrid() const = 0;
   virtual void SetSnapToGrid(bool on) = 0;
+  virtual bool SnapToShapes() const = 0;
   virtual void SetSnapToShapes(bool on) = 0;
   // BuiltInDocumentProperties by Word's English name ("Title", "Author", ...).
   virtual Text BuiltInDocumentProperty(const Text& name) const = 0;

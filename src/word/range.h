@@ -83,6 +83,8 @@ class Range {
   virtual void Delete() = 0;
   virtual void Select() = 0;
   virtual std::unique_ptr<Range> Duplicate() const = 0;
+  // The floating shapes anchored in the range.
+  virtual std::unique_ptr<word::ShapeRange> ShapeRange() = 0;
 };
 
 // The caret or the selected stretch of the active document. Typing replaces a
@@ -100,7 +102,8 @@ class Selection : public Range {
   virtual void InsertSymbol(long characterNumber, const word::Text& font, bool unicode) = 0;
   virtual double Information(WdInformation type) = 0;
   virtual WdSelectionType Type() const = 0;
-  virtual std::unique_ptr<word::ShapeRange> ShapeRange() = 0;
+  // The selected shapes.
+  std::unique_ptr<word::ShapeRange> ShapeRange() override = 0;
   virtual word::InlineShapes& InlineShapes() = 0;
   virtual std::unique_ptr<word::Range> Range() = 0;
 };

@@ -70,6 +70,8 @@ class WrapFormat {
   virtual void SetType(WdWrapType type) = 0;
 };
 
+class Shapes;
+
 // One shape, or with ShapeRange several at once: properties set on a range
 // apply to each of its shapes.
 class Shape {
@@ -100,6 +102,10 @@ class Shape {
   // member an object does not have.
   virtual Text AlternativeText() const { NotSupported(); }
   virtual void SetAlternativeText(const Text&) { NotSupported(); }
+  // The shapes of a drawing canvas, where new ones can be added. Added later
+  // than the members above: a back end without canvases answers as Word does
+  // for a member an object does not have.
+  virtual std::unique_ptr<Shapes> CanvasItems() { NotSupported(); }
 };
 
 class ShapeRange : public Shape {

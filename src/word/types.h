@@ -49,6 +49,8 @@ enum WdInformation {
   wdVerticalPositionRelativeToPage = 6,
 };
 enum WdFieldType { wdFieldEmpty = -1 };
+enum WdKeyCategory { wdKeyCategoryMacro = 2 };
+enum WdKey { wdNoKey = 255, wdKeyControl = 512, wdKeyAlt = 1024 };
 enum WdFindWrap { wdFindStop = 0, wdFindContinue = 1, wdFindAsk = 2 };
 enum WdReplace { wdReplaceNone = 0, wdReplaceOne = 1, wdReplaceAll = 2 };
 enum WdParagraphAlignment {

@@ -15,33 +15,16 @@ class ComOptions : public Options, public ComNode {
 class ComAutoCorrect : public AutoCorrect, public ComNode {
  public:
   using ComNode::ComNode;
+  bool CorrectSentenceCaps() const override { return Get(L"CorrectSentenceCaps").ToBool(); }
   void SetCorrectSentenceCaps(bool on) override { Put(L"CorrectSentenceCaps", on); }
+  bool ReplaceTextOn() const override { return Get(L"ReplaceText").ToBool(); }
+  void SetReplaceText(bool on) override { Put(L"ReplaceText", on); }
 };
 
 class ComAddIns : public AddIns, public ComNode {
  public:
   using ComNode::ComNode;
   void Add(const word::Text& fileName, bool install) override { Call(L"Add", {fileName, install}); }
-};
-
-class ComAutoTextEntry : public AutoTextEntry, public ComNode {
- public:
-  using ComNode::ComNode;
-  void Insert(word::Range& where, bool richText) override {
-    Call(L"Insert", {DispatchOf(where).get(), richText});
-  }
-  void Delete() override { Call(L"Delete"); }
-};
-
-class ComAutoTextEntries : public AutoTextEntries, public ComNode {
- public:
-  using ComNode::ComNode;
-  void Add(const word::Text& name, word::Range& range) override {
-    Call(L"Add", {name, DispatchOf(range).get()});
-  }
-  std::unique_ptr<AutoTextEntry> Item(const word::Text& name) override {
-    return std::make_unique<ComAutoTextEntry>(Fixed(L"Item", {name}));
-  }
 };
 
 class ComNormalTemplate : public NormalTemplate, public ComNode {
@@ -69,12 +52,11 @@ class ComCommandBars : public CommandBars, public ComNode {
   }
 };
 
-// Bindings made here run macros: category 2 (wdKeyCategoryMacro).
 class ComKeyBindings : public KeyBindings, public ComNode {
  public:
   using ComNode::ComNode;
-  void Add(long keyCode, const word::Text& macroName) override {
-    Call(L"Add", {2L, macroName, keyCode});
+  void Add(WdKeyCategory category, const word::Text& command, long keyCode) override {
+    Call(L"Add", {static_cast<long>(category), command, keyCode});
   }
 };
 
@@ -92,6 +74,15 @@ class ComApplication : public Application, public ComNode {
   word::AddIns& AddIns() override { return addIns_; }
   word::CommandBars& CommandBars() override { return commandBars_; }
   word::KeyBindings& KeyBindings() override { return keyBindings_; }
+  void SetCustomizationContext(Template& context) override {
+    Put(L"CustomizationContext", DispatchOf(context).get());
+  }
+  long BuildKeyCode(long key1, long key2, long key3, long key4) override {
+    return Call(L"BuildKeyCode", {key1, key2, key3, key4}).ToLong();
+  }
+  word::Text FindKeyCommand(long keyCode) override {
+    return Object().Object(L"FindKey", {keyCode}).Get(L"Command").ToText();
+  }
   word::Options& Options() override { return options_; }
   word::AutoCorrect& AutoCorrect() override { return autoCorrect_; }
   word::NormalTemplate& NormalTemplate() override { return normalTemplate_; }

@@ -27,10 +27,34 @@ class ComBookmarks : public Bookmarks, public ComNode {
   }
 };
 
-class ComTemplate : public Template, public ComNode {
+class ComAutoTextEntry : public AutoTextEntry, public ComNode {
  public:
   using ComNode::ComNode;
+  void Insert(word::Range& where, bool richText) override {
+    Call(L"Insert", {DispatchOf(where).get(), richText});
+  }
+  void Delete() override { Call(L"Delete"); }
+};
+
+class ComAutoTextEntries : public AutoTextEntries, public ComNode {
+ public:
+  using ComNode::ComNode;
+  void Add(const word::Text& name, word::Range& range) override {
+    Call(L"Add", {name, DispatchOf(range).get()});
+  }
+  std::unique_ptr<AutoTextEntry> Item(const word::Text& name) override {
+    return std::make_unique<ComAutoTextEntry>(Fixed(L"Item", {name}));
+  }
+};
+
+class ComTemplate : public Template, public ComNode {
+ public:
+  explicit ComTemplate(Ref ref) : ComNode(ref), entries_(Member(L"AutoTextEntries")) {}
   word::Text FullName() const override { return Get(L"FullName").ToText(); }
+  word::AutoTextEntries& AutoTextEntries() override { return entries_; }
+
+ private:
+  ComAutoTextEntries entries_;
 };
 
 class ComDocument : public Document, public ComNode {
@@ -59,7 +83,9 @@ class ComDocument : public Document, public ComNode {
   void SetEmbedTrueTypeFonts(bool on) override { Put(L"EmbedTrueTypeFonts", on); }
   void SetSaveSubsetFonts(bool on) override { Put(L"SaveSubsetFonts", on); }
   void SetDoNotEmbedSystemFonts(bool on) override { Put(L"DoNotEmbedSystemFonts", on); }
+  bool SnapToGrid() const override { return Get(L"SnapToGrid").ToBool(); }
   void SetSnapToGrid(bool on) override { Put(L"SnapToGrid", on); }
+  bool SnapToShapes() const override { return Get(L"SnapToShapes").ToBool(); }
   void SetSnapToShapes(bool on) override { Put(L"SnapToShapes", on); }
   word::Text BuiltInDocumentProperty(const word::Text& name) const override {
     return Object().Object(L"BuiltInDocumentProperties", {name}).Get(L"Value").ToText();

@@ -14,6 +14,20 @@ std::unique_ptr<word::Range> ComCharacters::Item(long index) {
   return std::make_unique<ComRange>(Fixed(L"Item", {index}));
 }
 
+template <class Base>
+std::unique_ptr<word::ShapeRange> RangeImpl<Base>::ShapeRange() {
+  return std::make_unique<ComShapeRange>(Fixed(L"ShapeRange"));
+}
+template class RangeImpl<word::Range>;
+template class RangeImpl<word::Selection>;
+
+template <class Base>
+std::unique_ptr<Shapes> ShapeImpl<Base>::CanvasItems() {
+  return std::make_unique<ComShapes>(Fixed(L"CanvasItems"));
+}
+template class ShapeImpl<Shape>;
+template class ShapeImpl<ShapeRange>;
+
 std::unique_ptr<word::ShapeRange> ComSelection::ShapeRange() {
   return std::make_unique<ComShapeRange>(Fixed(L"ShapeRange"));
 }

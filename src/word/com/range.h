@@ -83,6 +83,7 @@ class RangeImpl : public Base, public ComNode {
   void Delete() override { Call(L"Delete"); }
   void Select() override { Call(L"Select"); }
   std::unique_ptr<word::Range> Duplicate() const override;
+  std::unique_ptr<word::ShapeRange> ShapeRange() override;
 
  private:
   ComFont font_;

@@ -123,6 +123,7 @@ class ShapeImpl : public Base, public ComNode {
     Put(L"RelativeVerticalPosition", static_cast<long>(to));
   }
   void Delete() override { Call(L"Delete"); }
+  std::unique_ptr<Shapes> CanvasItems() override;
 
  private:
   ComLineFormat line_;

@@ -56,6 +56,18 @@ std::vector<Piece> Capture(const Place& place) {
   return pieces;
 }
 
+bool InFieldCode(Story& story, long pos) {
+  const StoryIndex& ix = story.Index();
+  return pos > 0 && pos <= ix.length && ix.segments[ix.SegmentAt(pos - 1)].codeAfter;
+}
+
+// An entry of one unformatted run of text.
+std::vector<Piece> TextPieces(const Text& text) {
+  auto doc = std::make_shared<pugi::xml_document>();
+  SetNodeText(doc->append_child("w:r").append_child("w:t"), text);
+  return {{doc, static_cast<long>(text.size())}};
+}
+
 class Entry : public word::AutoTextEntry {
  public:
   Entry(std::map<Text, std::vector<Piece>>& entries, Text name)
@@ -63,8 +75,9 @@ class Entry : public word::AutoTextEntry {
   void Insert(word::Range& where, bool) override {
     const Place& place = PlaceOf(where);
     Story& story = *place.story;
-    long pos = place.Start();
-    story.Delete(pos, place.End());
+    const long start = place.Start();
+    story.Delete(start, place.End());
+    long pos = start;
     for (const Piece& piece : entries_.at(name_)) {
       if (piece.run)
         story.InsertInline(pos, piece.run->first_child(), piece.positions);
@@ -72,6 +85,8 @@ class Entry : public word::AutoTextEntry {
         story.InsertParagraph(pos);
       pos += piece.positions;
     }
+    // Inside a field's code the entry's text becomes code, as Word shows it.
+    if (InFieldCode(story, start)) story.TextToCode(start, pos);
   }
   void Delete() override { entries_.erase(name_); }
 
@@ -82,6 +97,9 @@ class Entry : public word::AutoTextEntry {
 
 class Entries : public word::AutoTextEntries {
  public:
+  explicit Entries(const std::vector<std::pair<Text, Text>>& held) {
+    for (const auto& [name, text] : held) entries_[name] = TextPieces(text);
+  }
   void Add(const Text& name, word::Range& range) override {
     entries_[name] = Capture(PlaceOf(range));
   }
@@ -96,8 +114,9 @@ class Entries : public word::AutoTextEntries {
 
 }  // namespace
 
-std::unique_ptr<word::AutoTextEntries> MakeAutoTextEntries() {
-  return std::make_unique<Entries>();
+std::unique_ptr<word::AutoTextEntries> MakeAutoTextEntries(
+    const std::vector<std::pair<Text, Text>>& held) {
+  return std::make_unique<Entries>(held);
 }
 
 }  // namespace word::docx

@@ -10,6 +10,8 @@
 
 namespace word::docx {
 
-std::unique_ptr<word::AutoTextEntries> MakeAutoTextEntries();
+// held: entries there before the run, each one run of plain text.
+std::unique_ptr<word::AutoTextEntries> MakeAutoTextEntries(
+    const std::vector<std::pair<Text, Text>>& held = {});
 
 }  // namespace word::docx

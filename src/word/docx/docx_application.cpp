@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "runtime/utf8.h"
+#include "word/docx/app_state.h"
 #include "word/docx/auto_text.h"
 #include "word/docx/docx_document.h"
 #include "word/docx/new_document.h"
@@ -67,21 +68,29 @@ class NoAddIns : public word::AddIns {
 
 class Bars : public word::CommandBars {
  public:
+  explicit Bars(AppState& state) : state_(state) {}
   Text ControlCaption(const Text& bar, long index) const override {
-    auto it = captions_.find({bar, index});
-    return it == captions_.end() ? Text() : it->second;
+    return state_.Caption(bar, index);
   }
   void SetControlCaption(const Text& bar, long index, const Text& caption) override {
-    captions_[{bar, index}] = caption;
+    state_.SetCaption(bar, index, caption);
   }
 
  private:
-  std::map<std::pair<Text, long>, Text> captions_;
+  AppState& state_;
 };
 
-class NoKeyBindings : public word::KeyBindings {
+// Bindings land in the template of the customization context.
+class Keys : public word::KeyBindings {
  public:
-  void Add(long, const Text&) override {}
+  explicit Keys(AppState& state) : state_(state) {}
+  void Add(WdKeyCategory, const Text& command, long keyCode) override {
+    state_.BindKey(context, keyCode, command);
+  }
+  Text context = u"Normal.dotm";
+
+ private:
+  AppState& state_;
 };
 
 class NoOptions : public word::Options {
@@ -90,9 +99,17 @@ class NoOptions : public word::Options {
   void SetAutoFormatMatchParentheses(bool) override {}
 };
 
-class NoAutoCorrect : public word::AutoCorrect {
+// Word's defaults until a run sets them.
+class Corrections : public word::AutoCorrect {
  public:
-  void SetCorrectSentenceCaps(bool) override {}
+  explicit Corrections(AppState& state) : state_(state) {}
+  bool CorrectSentenceCaps() const override { return state_.Option("CorrectSentenceCaps", true); }
+  void SetCorrectSentenceCaps(bool on) override { state_.SetOption("CorrectSentenceCaps", on); }
+  bool ReplaceTextOn() const override { return state_.Option("ReplaceText", true); }
+  void SetReplaceText(bool on) override { state_.SetOption("ReplaceText", on); }
+
+ private:
+  AppState& state_;
 };
 
 class Normal : public word::NormalTemplate {
@@ -114,17 +131,24 @@ std::string FirstBytes(const std::filesystem::path& file, size_t* size) {
 }  // namespace
 
 struct DocxApplication::Parts {
+  AppState state;
   DocxDocuments documents;
   NoAddIns addIns;
-  Bars bars;
-  NoKeyBindings keys;
+  Bars bars{state};
+  Keys keys{state};
   NoOptions options;
-  NoAutoCorrect autoCorrect;
+  Corrections autoCorrect{state};
   Normal normal;
 };
 
 DocxApplication::DocxApplication(std::unique_ptr<DocxDocument> document)
-    : document_(std::move(document)), parts_(std::make_unique<Parts>()) {}
+    : document_(std::move(document)), parts_(std::make_unique<Parts>()) {
+  document_->SetAppState(parts_->state);
+}
+
+void DocxApplication::SetStateFile(const std::filesystem::path& file) {
+  parts_->state.Open(file);
+}
 
 DocxApplication::~DocxApplication() = default;
 
@@ -146,6 +170,22 @@ word::CommandBars& DocxApplication::CommandBars() {
 word::KeyBindings& DocxApplication::KeyBindings() {
   return parts_->keys;
 }
+void DocxApplication::SetCustomizationContext(Template& context) {
+  parts_->keys.context = context.FullName();
+}
+
+// The parts add up, as Word builds its codes; wdNoKey stands for no part.
+long DocxApplication::BuildKeyCode(long key1, long key2, long key3, long key4) {
+  long code = 0;
+  for (long key : {key1, key2, key3, key4})
+    if (key != wdNoKey) code += key;
+  return code;
+}
+
+Text DocxApplication::FindKeyCommand(long keyCode) {
+  return parts_->state.KeyCommand(parts_->keys.context, keyCode);
+}
+
 word::Options& DocxApplication::Options() {
   return parts_->options;
 }

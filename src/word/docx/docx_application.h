@@ -39,11 +39,17 @@ class DocxApplication : public word::Application {
   word::AddIns& AddIns() override;
   word::CommandBars& CommandBars() override;
   word::KeyBindings& KeyBindings() override;
+  void SetCustomizationContext(Template& context) override;
+  long BuildKeyCode(long key1, long key2, long key3, long key4) override;
+  Text FindKeyCommand(long keyCode) override;
   word::Options& Options() override;
   word::AutoCorrect& AutoCorrect() override;
   word::NormalTemplate& NormalTemplate() override;
 
   void SetTexConverter(TexConverter converter) { texConverter_ = std::move(converter); }
+  // The file that keeps toolbar captions, options and key bindings between
+  // runs (see app_state.h); without one they last for the run.
+  void SetStateFile(const std::filesystem::path& file);
   // Stores the caret in the file and saves it atomically if anything changed.
   bool SaveIfChanged();
   DocxDocument& Document() { return *document_; }

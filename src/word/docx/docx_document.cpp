@@ -6,6 +6,8 @@
 #include <ctime>
 
 #include "runtime/utf8.h"
+#include "word/docx/app_state.h"
+#include "word/docx/auto_text.h"
 #include "word/docx/docx_error.h"
 #include "word/docx/embedded_fonts.h"
 #include "word/docx/relationships.h"
@@ -65,13 +67,18 @@ class DocxBookmarks : public word::Bookmarks {
   DocxDocument& doc_;
 };
 
+// The program's template holds the marks that the insert tools set over
+// letters; the .docx engine carries them itself.
 class DocxTemplate : public word::Template {
  public:
   explicit DocxTemplate(Text name) : name_(std::move(name)) {}
   Text FullName() const override { return name_; }
+  word::AutoTextEntries& AutoTextEntries() override { return *entries_; }
 
  private:
   Text name_;
+  std::unique_ptr<word::AutoTextEntries> entries_ =
+      MakeAutoTextEntries({{u"hu_top", u"\\S\\UP7(⌒)"}, {u"xiangliang", u"\\S\\UP7(→)"}});
 };
 
 // Word's English names of the core properties and their elements.
@@ -293,9 +300,20 @@ void DocxDocument::SetSaveSubsetFonts(bool on) {
 void DocxDocument::SetDoNotEmbedSystemFonts(bool on) {
   settings_->SetDoNotEmbedSystemFonts(on);
 }
-// Snapping to the grid and to shapes is not kept in the file.
-void DocxDocument::SetSnapToGrid(bool) {}
-void DocxDocument::SetSnapToShapes(bool) {}
+// Snapping to the grid and to shapes is not kept in the file but in the
+// engine's state, as Word keeps it with itself.
+bool DocxDocument::SnapToGrid() const {
+  return appState_ ? appState_->Option("SnapToGrid", true) : true;
+}
+void DocxDocument::SetSnapToGrid(bool on) {
+  if (appState_) appState_->SetOption("SnapToGrid", on);
+}
+bool DocxDocument::SnapToShapes() const {
+  return appState_ ? appState_->Option("SnapToShapes", true) : true;
+}
+void DocxDocument::SetSnapToShapes(bool on) {
+  if (appState_) appState_->SetOption("SnapToShapes", on);
+}
 
 pugi::xml_node DocxDocument::CoreProperties() const {
   if (!coreLoaded_) {

@@ -22,6 +22,7 @@
 
 namespace word::docx {
 
+class AppState;
 class DocxSelection;
 class RangeFields;
 
@@ -59,7 +60,9 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   void SetEmbedTrueTypeFonts(bool on) override;
   void SetSaveSubsetFonts(bool on) override;
   void SetDoNotEmbedSystemFonts(bool on) override;
+  bool SnapToGrid() const override;
   void SetSnapToGrid(bool on) override;
+  bool SnapToShapes() const override;
   void SetSnapToShapes(bool on) override;
   Text BuiltInDocumentProperty(const Text& name) const override;
   void SetBuiltInDocumentProperty(const Text& name, const Text& value) override;
@@ -127,6 +130,8 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   // The caret as the hidden bookmark `_lpCaret` of the main story, and its removal.
   void StoreCaret();
   void RemoveCaretMarkers();
+  // Where the application keeps what Word keeps outside documents.
+  void SetAppState(AppState& state) { appState_ = &state; }
 
  private:
   void LoadStyles();
@@ -159,6 +164,7 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   Place fieldsPlace_;
   std::unique_ptr<RangeFields> fields_;
   std::unique_ptr<word::PageSetup> pageSetup_;
+  AppState* appState_ = nullptr;  // the application's, which outlives the document
   std::unique_ptr<word::Bookmarks> bookmarks_;
   std::unique_ptr<word::Shapes> shapes_;
   LiveAnchors liveAnchors_;

@@ -22,7 +22,8 @@ FieldSpan SpanOf(Story& story, pugi::xml_node begin) {
 
 }  // namespace
 
-pugi::xml_node AddField(DocxDocument& doc, Story& story, long start, long end, const Text& code) {
+pugi::xml_node AddField(DocxDocument& doc, Story& story, long start, long end, const Text& code,
+                        const CharFormat& typing) {
   pugi::xml_document keep;
   if (pugi::xml_node source = story.ReplacementFormat(start, end)) keep.append_copy(source);
   pugi::xml_node rPr = keep.first_child();
@@ -37,7 +38,7 @@ pugi::xml_node AddField(DocxDocument& doc, Story& story, long start, long end, c
   const Text text = code.empty() ? Text(u"  ") : u" " + code + u" ";
   pugi::xml_node begin =
       story.InsertInline(start, FieldCharRun(proto, rPr, "begin"), 1).child("w:fldChar");
-  story.InsertText(start + 1, text, TypingFormat{rPr, {}}, true);
+  story.InsertText(start + 1, text, TypingFormat{rPr, typing}, true);
   story.InsertInline(start + 1 + static_cast<long>(text.size()), FieldCharRun(proto, rPr, "end"),
                      1);
   doc.SetShowCode(begin, code.empty());
@@ -78,7 +79,8 @@ std::unique_ptr<word::Field> RangeFields::Add(word::Range& where, long type, con
       &selection.CurrentStory() == &story && selection.Start() == start && selection.End() == start;
   Text code = text;
   if (preserveFormatting && !code.empty()) code += u" \\* MERGEFORMAT";
-  pugi::xml_node begin = AddField(doc, story, start, end, code);
+  pugi::xml_node begin =
+      AddField(doc, story, start, end, code, caretHere ? selection.PendingFormat() : CharFormat());
   if (code.empty() && start == end && caretHere) selection.SetPlace(story, start + 2, start + 2);
   return std::make_unique<FieldImpl>(doc, story, begin);
 }

@@ -86,6 +86,7 @@ class RangeImpl : public Base, public PlaceHolder {
   void Delete() override { place_.story->Delete(Start(), End()); }
   void Select() override;
   std::unique_ptr<word::Range> Duplicate() const override;
+  std::unique_ptr<word::ShapeRange> ShapeRange() override;
 
  protected:
   long Clamp(long position) const { return std::clamp(position, 0L, place_.story->Length()); }
@@ -97,6 +98,9 @@ class RangeImpl : public Base, public PlaceHolder {
   std::unique_ptr<RangeCharacters> characters_;
   std::unique_ptr<RangeFind> find_;
 };
+
+// The wp:anchor elements of the floating shapes anchored in [start, end).
+std::vector<pugi::xml_node> AnchorsIn(Story& story, long start, long end);
 
 class DocxRange : public RangeImpl<word::Range> {
  public:

@@ -15,6 +15,22 @@ pugi::xml_node JcOf(pugi::xml_node p) {
 
 }  // namespace
 
+std::vector<pugi::xml_node> AnchorsIn(Story& story, long start, long end) {
+  std::vector<pugi::xml_node> anchors;
+  const StoryIndex& ix = story.Index();
+  if (ix.length == 0) return anchors;
+  for (size_t i = ix.SegmentAt(std::min(start, ix.length - 1));
+       i < ix.segments.size() && ix.segments[i].pos < end; ++i) {
+    const Segment& s = ix.segments[i];
+    if (s.kind != SegKind::Object) continue;
+    pugi::xml_node drawing = std::strcmp(s.node.name(), "mc:AlternateContent") == 0
+                                 ? s.node.child("mc:Choice").child("w:drawing")
+                                 : s.node;
+    if (pugi::xml_node anchor = drawing.child("wp:anchor")) anchors.push_back(anchor);
+  }
+  return anchors;
+}
+
 std::vector<pugi::xml_node> RangeParagraphFormat::Paragraphs() const {
   const StoryIndex& ix = place_.story->Index();
   std::vector<pugi::xml_node> out;

@@ -166,6 +166,8 @@ class FieldImpl : public word::Field {
 };
 
 // Makes a field of the given code over [start, end); returns its begin mark.
-pugi::xml_node AddField(DocxDocument& doc, Story& story, long start, long end, const Text& code);
+// typing: the format set at the caret, which the field's code takes.
+pugi::xml_node AddField(DocxDocument& doc, Story& story, long start, long end, const Text& code,
+                        const CharFormat& typing = {});
 
 }  // namespace word::docx

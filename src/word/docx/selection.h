@@ -18,6 +18,8 @@ class DocxSelection : public RangeImpl<word::Selection> {
   void LeaveHiddenCodes(Story& story, const std::vector<FieldSpan>& fields);
 
   word::Font& Font() override;
+  // The format set through Font that typing at the caret continues with.
+  const CharFormat& PendingFormat() const { return pending_; }
   void SetStart(long position) override;
   void SetEnd(long position) override;
   void Collapse(WdCollapseDirection direction) override;
@@ -56,6 +58,11 @@ void RangeImpl<Base>::Select() {
 template <class Base>
 std::unique_ptr<word::Range> RangeImpl<Base>::Duplicate() const {
   return std::make_unique<DocxRange>(place_.doc->MakePlace(*place_.story, Start(), End()));
+}
+
+template <class Base>
+std::unique_ptr<word::ShapeRange> RangeImpl<Base>::ShapeRange() {
+  return MakeShapeRange(*place_.doc, AnchorsIn(*place_.story, Start(), End()));
 }
 
 }  // namespace word::docx

@@ -1,8 +1,6 @@
 #pragma once
 // The application-wide objects of the recording back end.
 
-#include <set>
-
 #include "word/fake/document.h"
 
 namespace word::fake {
@@ -17,48 +15,16 @@ class FakeOptions : public Options, public Node {
 class FakeAutoCorrect : public AutoCorrect, public Node {
  public:
   using Node::Node;
+  bool CorrectSentenceCaps() const override { return Number("CorrectSentenceCaps", -1) != 0; }
   void SetCorrectSentenceCaps(bool on) override { Put("CorrectSentenceCaps", on); }
+  bool ReplaceTextOn() const override { return Number("ReplaceText", -1) != 0; }
+  void SetReplaceText(bool on) override { Put("ReplaceText", on); }
 };
 
 class FakeAddIns : public AddIns, public Node {
  public:
   using Node::Node;
   void Add(const word::Text& fileName, bool install) override { Call("Add", fileName, install); }
-};
-
-class FakeAutoTextEntry : public AutoTextEntry, public Node {
- public:
-  FakeAutoTextEntry(State& state, std::string path, std::set<word::Text>& names, word::Text name)
-      : Node(state, std::move(path)), names_(names), name_(std::move(name)) {}
-  void Insert(word::Range& where, bool richText) override {
-    Call("Insert", PathOf(where), richText);
-  }
-  void Delete() override {
-    Call("Delete");
-    names_.erase(name_);
-  }
-
- private:
-  std::set<word::Text>& names_;
-  word::Text name_;
-};
-
-class FakeAutoTextEntries : public AutoTextEntries, public Node {
- public:
-  using Node::Node;
-  void Add(const word::Text& name, word::Range& range) override {
-    Call("Add", name, PathOf(range));
-    names_.insert(name);
-  }
-  std::unique_ptr<AutoTextEntry> Item(const word::Text& name) override {
-    if (!names_.count(name)) {
-      throw NoSuchMember();
-    }
-    return std::make_unique<FakeAutoTextEntry>(st_, path_ + "(" + Arg(name) + ")", names_, name);
-  }
-
- private:
-  std::set<word::Text> names_;
 };
 
 class FakeNormalTemplate : public NormalTemplate {
@@ -91,7 +57,12 @@ class FakeCommandBars : public CommandBars, public Node {
 class FakeKeyBindings : public KeyBindings, public Node {
  public:
   using Node::Node;
-  void Add(long keyCode, const word::Text& macroName) override { Call("Add", keyCode, macroName); }
+  // A binding is kept as the answer of FindKey(code).Command.
+  void Add(WdKeyCategory category, const word::Text& command, long keyCode) override {
+    Call("Add", static_cast<long>(category), command, keyCode);
+    st_.values[FindKeyPath(keyCode)] = command;
+  }
+  static std::string FindKeyPath(long keyCode) { return "FindKey(" + Arg(keyCode) + ").Command"; }
 };
 
 }  // namespace word::fake

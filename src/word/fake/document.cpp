@@ -51,7 +51,7 @@ std::unique_ptr<word::Range> FakeDocument::Content() {
 
 std::unique_ptr<Template> FakeDocument::AttachedTemplate() {
   st_.CheckFailure(Child("AttachedTemplate"));
-  return std::make_unique<FakeTemplate>(doc_.attachedTemplate);
+  return std::make_unique<FakeTemplate>(st_, doc_.attachedTemplate);
 }
 
 void FakeDocument::SetAttachedTemplate(const word::Text& path) {

@@ -3,6 +3,8 @@
 // its collections bare ("Shapes.AddLine(...)") and itself as ActiveDocument;
 // a later one is Documents(n).
 
+#include <set>
+
 #include "word/fake/shapes.h"
 
 namespace word::fake {
@@ -32,13 +34,58 @@ class FakeBookmarks : public Bookmarks, public Node {
   std::unique_ptr<word::Range> Item(const word::Text& name) override;
 };
 
+class FakeAutoTextEntry : public AutoTextEntry, public Node {
+ public:
+  FakeAutoTextEntry(State& state, std::string path, std::set<word::Text>& names, word::Text name)
+      : Node(state, std::move(path)), names_(names), name_(std::move(name)) {}
+  void Insert(word::Range& where, bool richText) override {
+    Call("Insert", PathOf(where), richText);
+  }
+  void Delete() override {
+    Call("Delete");
+    names_.erase(name_);
+  }
+
+ private:
+  std::set<word::Text>& names_;
+  word::Text name_;
+};
+
+class FakeAutoTextEntries : public AutoTextEntries, public Node {
+ public:
+  using Node::Node;
+  void Add(const word::Text& name, word::Range& range) override {
+    Call("Add", name, PathOf(range));
+    names_.insert(name);
+  }
+  // An entry the template holds before the run.
+  void Hold(const word::Text& name) { names_.insert(name); }
+  std::unique_ptr<AutoTextEntry> Item(const word::Text& name) override {
+    if (!names_.count(name)) {
+      throw NoSuchMember();
+    }
+    return std::make_unique<FakeAutoTextEntry>(st_, path_ + "(" + Arg(name) + ")", names_, name);
+  }
+
+ private:
+  std::set<word::Text> names_;
+};
+
+// The attached template holds the mark entries of the insert tools.
 class FakeTemplate : public Template {
  public:
-  explicit FakeTemplate(word::Text fullName) : fullName_(std::move(fullName)) {}
+  FakeTemplate(State& state, word::Text fullName)
+      : fullName_(std::move(fullName)),
+        entries_(state, "ActiveDocument.AttachedTemplate.AutoTextEntries") {
+    entries_.Hold(u"hu_top");
+    entries_.Hold(u"xiangliang");
+  }
   word::Text FullName() const override { return fullName_; }
+  word::AutoTextEntries& AutoTextEntries() override { return entries_; }
 
  private:
   word::Text fullName_;
+  FakeAutoTextEntries entries_;
 };
 
 class FakeDocument : public Document, public Node {
@@ -56,7 +103,9 @@ class FakeDocument : public Document, public Node {
   void SetEmbedTrueTypeFonts(bool on) override { Put("EmbedTrueTypeFonts", on); }
   void SetSaveSubsetFonts(bool on) override { Put("SaveSubsetFonts", on); }
   void SetDoNotEmbedSystemFonts(bool on) override { Put("DoNotEmbedSystemFonts", on); }
+  bool SnapToGrid() const override { return Number("SnapToGrid", -1) != 0; }
   void SetSnapToGrid(bool on) override { Put("SnapToGrid", on); }
+  bool SnapToShapes() const override { return Number("SnapToShapes", -1) != 0; }
   void SetSnapToShapes(bool on) override { Put("SnapToShapes", on); }
   word::Text BuiltInDocumentProperty(const word::Text& name) const override;
   void SetBuiltInDocumentProperty(const word::Text& name, const word::Text& value) override;

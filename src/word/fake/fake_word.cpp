@@ -121,4 +121,12 @@ std::string CallDiff(const std::vector<std::string>& actual,
   return diff;
 }
 
+// The parts add up, as Word's codes are built; wdNoKey stands for no part.
+long FakeWord::BuildKeyCode(long key1, long key2, long key3, long key4) {
+  long code = 0;
+  for (long key : {key1, key2, key3, key4})
+    if (key != wdNoKey) code += key;
+  return code;
+}
+
 }  // namespace word::fake

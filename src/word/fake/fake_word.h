@@ -42,6 +42,13 @@ class FakeWord : private detail::StateHolder, public Application, public Node {
   word::AddIns& AddIns() override { return addIns_; }
   word::CommandBars& CommandBars() override { return commandBars_; }
   word::KeyBindings& KeyBindings() override { return keyBindings_; }
+  void SetCustomizationContext(Template& context) override {
+    Put("CustomizationContext", context.FullName());
+  }
+  long BuildKeyCode(long key1, long key2, long key3, long key4) override;
+  word::Text FindKeyCommand(long keyCode) override {
+    return StringAt(FakeKeyBindings::FindKeyPath(keyCode), word::Text());
+  }
   word::Options& Options() override { return options_; }
   word::AutoCorrect& AutoCorrect() override { return autoCorrect_; }
   word::NormalTemplate& NormalTemplate() override { return normalTemplate_; }

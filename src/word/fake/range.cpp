@@ -128,6 +128,13 @@ WdSelectionType FakeSelection::Type() const {
   return static_cast<WdSelectionType>(Number("Type", derived));
 }
 
+template <class Base>
+std::unique_ptr<word::ShapeRange> RangeImpl<Base>::ShapeRange() {
+  return std::make_unique<FakeShapeRange>(st_, path_ + ".ShapeRange", st_.ActiveDocument().shapes);
+}
+template class RangeImpl<word::Range>;
+template class RangeImpl<word::Selection>;
+
 std::unique_ptr<word::ShapeRange> FakeSelection::ShapeRange() {
   return std::make_unique<FakeShapeRange>(st_, "Selection.ShapeRange", st_.selection.shapes);
 }

@@ -95,6 +95,8 @@ class RangeImpl : public Base, public Node {
     st_.selection.shapes.clear();
   }
   std::unique_ptr<word::Range> Duplicate() const override;
+  // Every shape of the document: the fake lays out no pages.
+  std::unique_ptr<word::ShapeRange> ShapeRange() override;
 
  protected:
   SharedText text_;
