@@ -56,6 +56,7 @@ TEST(DialogInputs, NoInputEscapesTheGuardOrLosesEarlierWork) {
   for (const tools::FormBinding& binding : tools::Forms()) {
     for (const std::u16string& input : kInputs) {
       // Each button of a fresh dialog, as each may end the run.
+      session.WordApp = app.get();
       const size_t buttons = binding.make(session)->findChildren<QAbstractButton*>().size();
       for (size_t b = 0; b < buttons; ++b) {
         session.WordApp = app.get();
