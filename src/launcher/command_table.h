@@ -50,7 +50,7 @@ inline constexpr std::array<CommandRow, 41> kCommandTable{{
     {u"zft", How::kModeless, u"frmZFT", true},
     {u"sxt", How::kModeless, u"frmSXT", true},
     {u"sector", How::kModeless, u"frmSector", true},
-    {u"fangge", How::kModeless, u"frmFangGe", false},
+    {u"fangge", How::kModeless, u"frmFangGe", true},
     {u"bat", How::kModeless, u"frmWordBat", true},
     {u"interval", How::kModeless, u"frmInterval", true},
     {u"fcz", How::kRoutine, {}, true},
