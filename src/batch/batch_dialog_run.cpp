@@ -31,7 +31,7 @@ FileList WithBackups(const FileList& files, BatchSummary& failures) {
     if (std::find(failed.begin(), failed.end(), file) == failed.end()) {
       kept.push_back(file);
     } else {
-      failures.failed.push_back({file, FileResult::kFailed, u"无法备份，未处理"});
+      failures.failed.push_back({file, FileResult::kFailed, u"无法备份，未处理", {}});
     }
   }
   return kept;

@@ -126,7 +126,7 @@ void QuadraticEquation(lp::Session& session) {
 
 void Inequality(lp::Session& session) {
   auto s = lp::ParseInequality(u"3x+1>2x-1", session.prompt);
-  if (s) lp::TypeInequalitySolution(session, *s, {true, true, false});
+  if (s) lp::TypeInequalitySolution(session, *s, {true, true});
 }
 
 void InequalityOnNumberLine(lp::Session& session) {
@@ -185,7 +185,7 @@ const std::vector<Script>& Scripts() {
       {"inequality on a number line",
        {u"", u"", u""},
        &InequalityOnNumberLine,
-       "",
+       "¶",
        Fake::kFollows,
        "ForeColor\\.RGB=[0-9]+"},
       {"permutation",
