@@ -1,5 +1,6 @@
 #include "session/figure.h"
 
+#include <algorithm>
 #include <chrono>
 #include <ctime>
 #include <random>
@@ -60,11 +61,20 @@ void GetCaretAnchor(Session& s) {
 }
 
 std::u16string MakeShapeName(Session& s, const std::u16string& base) {
-  std::u16string name = base + u"：" + Trim(Str(static_cast<double>(RandomNumber()))) +
-                        Digits(Mid(NowText(), 3)) + u"_lumenpad";
-  if (name.size() > 32) name.resize(32);
   if (s.ShapeCounter < 1) throw RuntimeError(kSubscriptOutOfRange);
   s.ShapeNames.resize(static_cast<size_t>(s.ShapeCounter));
+  const auto earlier = s.ShapeNames.begin() + (s.ShapeCounter - 1);
+  // Shapes of one kind drawn within a second differ only by the random
+  // number; a figure's names must differ for it to be grouped by name, so a
+  // number already drawn is drawn again (a while: a base so long that the
+  // cut leaves no number keeps its name).
+  std::u16string name;
+  for (int tries = 0; tries < 1000; ++tries) {
+    name = base + u"：" + Trim(Str(static_cast<double>(RandomNumber()))) +
+           Digits(Mid(NowText(), 3)) + u"_lumenpad";
+    if (name.size() > 32) name.resize(32);
+    if (std::find(s.ShapeNames.begin(), earlier, name) == earlier) break;
+  }
   s.ShapeNames[s.ShapeCounter - 1] = name;
   return name;
 }
@@ -75,7 +85,14 @@ std::u16string strGetShapeName(const std::u16string& prefix) {
 }
 
 void CloseFigure(Session& s, const std::u16string& kindBase) {
-  s.WordApp->ActiveDocument().Shapes().Range(s.ShapeNames)->Group()->Select();
+  std::unique_ptr<word::ShapeRange> shapes =
+      s.WordApp->ActiveDocument().Shapes().Range(s.ShapeNames);
+  // Word groups two shapes or more; a figure of one shape is placed as it is.
+  if (s.ShapeNames.size() > 1) {
+    shapes->Group()->Select();
+  } else {
+    shapes->Select();
+  }
   GetCaretAnchor(s);
   std::unique_ptr<word::ShapeRange> figure = s.WordApp->Selection().ShapeRange();
   figure->SetName(MakeShapeName(s, kindBase));

@@ -21,9 +21,9 @@ std::u16string MakeShapeName(Session& session, const std::u16string& base);
 // nowhere.
 std::u16string strGetShapeName(const std::u16string& prefix);
 
-// Groups the shapes named in ShapeNames, selects the group, names it after
-// kindBase (such as "区间"), sends it behind, then in front of the text, and
-// moves it to the caret anchor. ShapeCounter and ShapeNames stay as they are.
+// Groups the shapes named in ShapeNames (one shape stays as it is), selects the group, names it
+// after kindBase (such as "区间"), sends it behind, then in front of the text, and moves it to the
+// caret anchor. ShapeCounter and ShapeNames stay as they are.
 void CloseFigure(Session& session, const std::u16string& kindBase);
 
 }  // namespace lp
