@@ -24,8 +24,7 @@ ErrInfo ErrOf(const std::exception& error) {
   if (auto* e = dynamic_cast<const word::ComError*>(&error)) return {e->Number(), description};
   if (dynamic_cast<const std::bad_alloc*>(&error))
     return {kOutOfMemory, FromUtf8(ErrorDescription(kOutOfMemory))};
-  // Anything else is a fault of the program itself, which the original
-  // runtime called an internal error.
+  // Anything else is a fault of the program itself: an internal error (51).
   return {kInternalError, FromUtf8(ErrorDescription(kInternalError))};
 }
 

@@ -115,10 +115,10 @@ void DrawFixedTick(const Canvas& c, double v, const std::u16string& tickBase,
 }
 
 // The end's label: at a whole value only where no tick label stands already.
-void DrawEndLabel(const Canvas& c, const IntervalSpec& spec, double v, const std::u16string& base,
-                  const std::u16string& text, bool twoEnded) {
+void DrawEndLabel(const Canvas& c, const IntervalSpec& interval, double v,
+                  const std::u16string& base, const std::u16string& text, bool twoEnded) {
   bool whole = Int(v) == v;
-  if (whole && (spec.chkKD || v == 0 || v == 1)) return;
+  if (whole && (interval.chkKD || v == 0 || v == 1)) return;
   auto box = AddLabelBox(c, static_cast<float>(c.state.Unit * v - 16 + c.session.FigureOriginX),
                          c.Oy() - 2, base);
   if (whole)
@@ -187,25 +187,28 @@ void DrawAxis(Session& session, const IntervalState& state, bool noX,
     DrawListedTicks(c, numberList);
 }
 
-void DrawInterval(Session& session, const IntervalState& state, const IntervalSpec& spec) {
+void DrawInterval(Session& session, const IntervalState& state, const IntervalSpec& interval) {
   Canvas c{session, state};
-  std::u16string name = IntervalKindName(spec.kind);
-  float y = static_cast<float>(c.Oy() - spec.h);
-  if (IsTwoEnded(spec.kind)) {
+  std::u16string name = IntervalKindName(interval.kind);
+  float y = static_cast<float>(c.Oy() - interval.h);
+  if (IsTwoEnded(interval.kind)) {
     DrawPolyline(c,
-                 {{c.X(spec.a), c.Oy()}, {c.X(spec.a), y}, {c.X(spec.b), y}, {c.X(spec.b), c.Oy()}},
-                 spec.colour);
-    DrawDot(c, spec.a, InStr(name, u"NLTa") > 0, u"点a");
-    DrawDot(c, spec.b, InStr(name, u"NBTb") > 0, u"点b");
-    DrawEndLabel(c, spec, spec.a, u"文本a", spec.TextA, true);
-    DrawEndLabel(c, spec, spec.b, u"文本b", spec.TextB, true);
+                 {{c.X(interval.a), c.Oy()},
+                  {c.X(interval.a), y},
+                  {c.X(interval.b), y},
+                  {c.X(interval.b), c.Oy()}},
+                 interval.colour);
+    DrawDot(c, interval.a, InStr(name, u"NLTa") > 0, u"点a");
+    DrawDot(c, interval.b, InStr(name, u"NBTb") > 0, u"点b");
+    DrawEndLabel(c, interval, interval.a, u"文本a", interval.TextA, true);
+    DrawEndLabel(c, interval, interval.b, u"文本b", interval.TextB, true);
   } else {
-    bool rightwards = spec.kind == kNoLessThanA || spec.kind == kBigThanA;
+    bool rightwards = interval.kind == kNoLessThanA || interval.kind == kBigThanA;
     double far = rightwards ? state.XMax * state.Unit + 16.0 : state.XMin * state.Unit - 16;
     float farX = static_cast<float>(far + session.FigureOriginX);
-    DrawPolyline(c, {{c.X(spec.a), c.Oy()}, {c.X(spec.a), y}, {farX, y}}, spec.colour);
-    DrawDot(c, spec.a, InStr(name, u"No") > 0, u"点");
-    DrawEndLabel(c, spec, spec.a, u"文本" + spec.TextA, spec.TextA, false);
+    DrawPolyline(c, {{c.X(interval.a), c.Oy()}, {c.X(interval.a), y}, {farX, y}}, interval.colour);
+    DrawDot(c, interval.a, InStr(name, u"No") > 0, u"点");
+    DrawEndLabel(c, interval, interval.a, u"文本" + interval.TextA, interval.TextA, false);
   }
   session.WordApp->SetScreenUpdating(true);
 }

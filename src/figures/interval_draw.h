@@ -25,7 +25,7 @@ struct IntervalSpec {
 void DrawAxis(Session& session, const IntervalState& state, bool noX,
               const std::u16string& tickMode, const std::u16string& numberList);
 
-void DrawInterval(Session& session, const IntervalState& state, const IntervalSpec& spec);
+void DrawInterval(Session& session, const IntervalState& state, const IntervalSpec& interval);
 
 // Whether a label entry is set as a formula (an EQ field) instead of plain text.
 bool IsFormulaEntry(const std::u16string& entry);

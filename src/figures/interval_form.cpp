@@ -73,22 +73,22 @@ std::u16string Complaint(const IntervalControls& c, const IntervalState& s, doub
 void DrawNextInterval(IntervalForm& form, Session& session, double a, double b) {
   IntervalControls& c = form.controls;
   IntervalState& s = form.state;
-  IntervalSpec spec{c.kind,
-                    a,
-                    b,
-                    NormaliseExpression(Trim(c.txtA)),
-                    NormaliseExpression(Trim(c.txtB)),
-                    s.HeightOffset,
-                    0,
-                    c.chkKD};
-  spec.colour = c.randomColour ? RandomColour(s) : c.labIntervalColor;
+  IntervalSpec interval{c.kind,
+                        a,
+                        b,
+                        NormaliseExpression(Trim(c.txtA)),
+                        NormaliseExpression(Trim(c.txtB)),
+                        s.HeightOffset,
+                        0,
+                        c.chkKD};
+  interval.colour = c.randomColour ? RandomColour(s) : c.labIntervalColor;
   s.IntervalType = IntervalKindName(c.kind);
   // A reversed pair swaps the boxes only: the drawing keeps a and b.
   if (IsTwoEnded(c.kind) && a >= b) {
     c.txtA = Str(b);
     c.txtB = Str(a);
   }
-  DrawInterval(session, s, spec);
+  DrawInterval(session, s, interval);
   s.HeightOffset = static_cast<int16_t>(s.HeightOffset + 5);
 }
 

@@ -30,9 +30,9 @@ long RgbOf(const QColor& c) {
 
 void frmGraph::Connect() {
   for (int tab = 0; tab < SSTab1->count(); ++tab) {
-    const graph::GraphTab& spec = graph::GraphTabs()[tab];
+    const graph::GraphTab& tabDef = graph::GraphTabs()[tab];
     QWidget* page = SSTab1->widget(tab);
-    for (const graph::TabButton& b : spec.buttons) {
+    for (const graph::TabButton& b : tabDef.buttons) {
       auto* button = page->findChild<QPushButton*>(Q(b.name));
       std::u16string tag = b.tag;
       if (tag.empty())

@@ -205,7 +205,7 @@ FormulaBox Typesetter::CommandBox(const QString& name, double size, QString& sig
   if (name == u"left") return Delimited(size);
   if (name == u"begin") {
     Argument();
-    if (Peek() == u'{') Argument();  // array column spec
+    if (Peek() == u'{') Argument();  // array column layout
     FormulaBox rows = Rows(size);
     Skip(QStringLiteral("\\end"));
     Argument();

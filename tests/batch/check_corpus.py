@@ -226,7 +226,7 @@ def check_backup(name, original, folder):
         return
     with open(os.path.join(folder, backups[0]), 'rb') as f1, open(original, 'rb') as f2:
         if f1.read() != f2.read():
-            fail(name, 'the backup differs from the original')
+            fail(name, 'the backup differs from the untouched file')
 
 
 def run(tool, corpus, work, op, *args):

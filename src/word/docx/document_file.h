@@ -33,7 +33,7 @@ class DocumentLock {
 // Replaces `target` by the finished file `built`, keeping the target's mode
 // and, where allowed, its owner. In a writable folder the new file is renamed
 // over the old; in a folder that cannot be written the bytes are written in
-// place, with a copy of the original kept in the temporary folder until they
+// place, with a copy of the file as it was kept in the temporary folder until they
 // are on disk. Throws DocxFileError "文件无法保存：…，文档没有改动。".
 void ReplaceFile(const std::filesystem::path& built, const std::filesystem::path& target);
 

@@ -24,8 +24,8 @@ std::optional<std::pair<long, long>> FirstMatch(const Search& search, long from,
   return std::nullopt;
 }
 
-void ApplySpec(Format& format, const std::map<std::string, Kept>& spec) {
-  for (const auto& [name, value] : spec) {
+void ApplySpec(Format& format, const std::map<std::string, Kept>& kept) {
+  for (const auto& [name, value] : kept) {
     if (name == "Name") format.name = std::get<Text>(value);
     if (name == "NameFarEast") format.nameFarEast = std::get<Text>(value);
     if (name == "Size") format.size = std::get<float>(value);
