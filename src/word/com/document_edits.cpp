@@ -47,6 +47,15 @@ bool DeletableBlank(const Dispatch& paragraph, bool last) {
          !CountOf(range.Object(L"ShapeRange")) && !CountOf(range.Object(L"Bookmarks"));
 }
 
+// Runs take on each item of the collection; the count of items it took.
+template <class Take>
+long CountTaken(const Dispatch& collection, Take take) {
+  long taken = 0;
+  for (long i = 1; i <= CountOf(collection); ++i)
+    if (take(collection.Object(L"Item", {i}))) ++taken;
+  return taken;
+}
+
 }  // namespace
 
 long ComDocument::DeleteTextHyperlinks() {
@@ -125,39 +134,29 @@ long ComDocument::ReplaceAllText(const word::Text& findText, const word::Text& r
 }
 
 long ComDocument::ScaleFormulas(double factor) {
-  long done = 0;
-  Dispatch shapes = Object().Object(L"InlineShapes");
-  for (long i = 1; i <= CountOf(shapes); ++i) {
-    Dispatch shape = shapes.Object(L"Item", {i});
-    if (!IsEquationObject(shape)) continue;
+  const long objects = CountTaken(Object().Object(L"InlineShapes"), [&](const Dispatch& shape) {
+    if (!IsEquationObject(shape)) return false;
     ScaleInline(shape, factor);
-    ++done;
-  }
-  Dispatch fields = Object().Object(L"Fields");
-  for (long i = 1; i <= CountOf(fields); ++i) {
-    Dispatch field = fields.Object(L"Item", {i});
-    if (field.Get(L"Type").ToLong() != kFieldExpression) continue;
+    return true;
+  });
+  const long fields = CountTaken(Object().Object(L"Fields"), [&](const Dispatch& field) {
+    if (field.Get(L"Type").ToLong() != kFieldExpression) return false;
     ScaleFont(field.Object(L"Code"), factor);
-    ++done;
-  }
-  Dispatch equations = Object().Object(L"OMaths");
-  for (long i = 1; i <= CountOf(equations); ++i) {
-    ScaleFont(equations.Object(L"Item", {i}).Object(L"Range"), factor);
-    ++done;
-  }
-  return done;
+    return true;
+  });
+  const long equations = CountTaken(Object().Object(L"OMaths"), [&](const Dispatch& equation) {
+    ScaleFont(equation.Object(L"Range"), factor);
+    return true;
+  });
+  return objects + fields + equations;
 }
 
 long ComDocument::ScalePictures(double factor) {
-  long done = 0;
-  Dispatch shapes = Object().Object(L"InlineShapes");
-  for (long i = 1; i <= CountOf(shapes); ++i) {
-    Dispatch shape = shapes.Object(L"Item", {i});
-    if (shape.Get(L"Type").ToLong() != kInlinePicture) continue;
+  return CountTaken(Object().Object(L"InlineShapes"), [&](const Dispatch& shape) {
+    if (shape.Get(L"Type").ToLong() != kInlinePicture) return false;
     ScaleInline(shape, factor);
-    ++done;
-  }
-  return done;
+    return true;
+  });
 }
 
 long ComDocument::AlignFormulas(bool unshift) {
