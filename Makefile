@@ -10,7 +10,7 @@ PACKAGES := build-essential cmake ninja-build pkg-config \
   qt6-base-dev qt6-qpa-plugins libsqlite3-dev sqlite3 libzip-dev libpugixml-dev libpng-dev \
   libgtest-dev libgmock-dev \
   libjpeg-turbo-progs libjpeg62-turbo-dev libmuparser-dev \
-  libxml2-utils poppler-utils libreoffice-writer-nogui fonts-wqy-zenhei unzip python3 \
+  libxml2-utils poppler-utils libreoffice-writer-nogui fonts-wqy-zenhei unzip python3 python3-docx \
   g++-mingw-w64-x86-64 nodejs wine64 fonttools
 
 .PHONY: deps build test demo bench clean com com-wine format

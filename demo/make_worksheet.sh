@@ -16,5 +16,11 @@ for step in "$here"/steps/*.sh; do
 done
 if command -v soffice >/dev/null; then
   soffice --headless --convert-to pdf --outdir "$here" "$doc" >/dev/null 2>&1 || true
+  # Pages a step made beside the worksheet (a before/after view) follow it.
+  extra=("$here"/pages/*.pdf)
+  if [ -f "$here/worksheet.pdf" ] && [ -f "${extra[0]}" ] && command -v pdfunite >/dev/null; then
+    pdfunite "$here/worksheet.pdf" "${extra[@]}" "$here/worksheet+pages.pdf"
+    mv "$here/worksheet+pages.pdf" "$here/worksheet.pdf"
+  fi
 fi
 echo "demo: $doc"
