@@ -215,18 +215,24 @@ batch::BatchChoice frmWordBat::Choice() const {
 }
 
 // One line per file on the command line, so that a script can follow the run.
+// The dialog is repainted a few dozen times a second at most: painting after
+// every file would cost the run more than the files themselves.
 bool frmWordBat::FileDone(int done, int total, const std::u16string& file) {
+  if (session_.headless)
+    std::printf("%s %s\n", ToUtf8(windowTitle().toStdU16String()).c_str(), ToUtf8(file).c_str());
+  if (done < total && sinceRepaint_.isValid() && sinceRepaint_.elapsed() < kRepaintMs)
+    return !stopAsked_;
+  sinceRepaint_.start();
   prgFiles->setMaximum(total);
   prgFiles->setValue(done);
   labFile->setText(QString::fromStdU16String(file));
-  if (session_.headless)
-    std::printf("%s %s\n", ToUtf8(windowTitle().toStdU16String()).c_str(), ToUtf8(file).c_str());
   QCoreApplication::processEvents();
   return !stopAsked_;
 }
 
 void frmWordBat::cmdOK_Click() {
   stopAsked_ = false;
+  sinceRepaint_.invalidate();
   labSummary->clear();
   cmdOK->setEnabled(false);
   cmdStop->setEnabled(true);

@@ -3,6 +3,7 @@
 // of tab 0 or the changes of tab 1, a progress bar and a stop between files.
 
 #include <QCheckBox>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -43,6 +44,8 @@ class frmWordBat : public ui::Form {
   QProgressBar* prgFiles;
   QLabel *labFile, *labSummary;
   bool stopAsked_ = false;
+  static constexpr qint64 kRepaintMs = 40;
+  QElapsedTimer sinceRepaint_;
 };
 
 }  // namespace lp

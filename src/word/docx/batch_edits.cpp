@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "word/docx/field_runs.h"
+#include "word/docx/xml_part.h"
 
 namespace word::docx {
 namespace {
@@ -79,10 +80,10 @@ bool Removable(pugi::xml_node p) {
 
 long UnwrapTextHyperlinks(pugi::xml_node root, const std::string& hyperlinkStyleId) {
   long done = 0;
-  for (const pugi::xpath_node& x : root.select_nodes(".//w:hyperlink")) {
-    for (const pugi::xpath_node& r : x.node().select_nodes(".//w:r"))
-      DropHyperlinkStyle(r.node(), hyperlinkStyleId);
-    Unwrap(x.node());
+  for (pugi::xml_node link : DescendantsNamed(root, {"w:hyperlink"})) {
+    for (pugi::xml_node run : DescendantsNamed(link, {"w:r"}))
+      DropHyperlinkStyle(run, hyperlinkStyleId);
+    Unwrap(link);
     ++done;
   }
   for (const FieldRuns& f : OutermostFields(root)) {
@@ -100,12 +101,15 @@ long UnwrapTextHyperlinks(pugi::xml_node root, const std::string& hyperlinkStyle
 
 long RemoveShapeHyperlinks(pugi::xml_node root) {
   long done = 0;
-  for (const pugi::xpath_node& x : root.select_nodes(".//a:hlinkClick | .//a:hlinkHover")) {
-    x.parent().remove_child(x.node());
-    ++done;
-  }
-  for (const pugi::xpath_node& x : root.select_nodes(".//*[@href][starts-with(name(), 'v:')]")) {
-    x.node().remove_attribute("href");
+  auto linked = [](pugi::xml_node n) {
+    return Named(n, "a:hlinkClick") || Named(n, "a:hlinkHover") ||
+           (!std::strncmp(n.name(), "v:", 2) && n.attribute("href"));
+  };
+  for (pugi::xml_node n : Descendants(root, linked)) {
+    if (n.name()[0] == 'a')
+      n.parent().remove_child(n);  // DrawingML: the link is an element
+    else
+      n.remove_attribute("href");  // VML: an attribute of the shape
     ++done;
   }
   return done;
@@ -113,18 +117,20 @@ long RemoveShapeHyperlinks(pugi::xml_node root) {
 
 long RemoveHeaderFooterReferences(pugi::xml_node root) {
   long done = 0;
-  for (const pugi::xpath_node& x :
-       root.select_nodes(".//w:sectPr/w:headerReference | .//w:sectPr/w:footerReference")) {
-    x.parent().remove_child(x.node());
-    ++done;
+  for (pugi::xml_node section : DescendantsNamed(root, {"w:sectPr"})) {
+    for (pugi::xml_node ref = section.first_child(), next; ref; ref = next) {
+      next = ref.next_sibling();
+      if (!Named(ref, "w:headerReference") && !Named(ref, "w:footerReference")) continue;
+      section.remove_child(ref);
+      ++done;
+    }
   }
   return done;
 }
 
 long RemoveBlankParagraphs(pugi::xml_node root) {
   long done = 0;
-  for (const pugi::xpath_node& x : root.select_nodes(".//w:p")) {
-    pugi::xml_node p = x.node();
+  for (pugi::xml_node p : DescendantsNamed(root, {"w:p"})) {
     if (!BlankParagraph(p) || !Removable(p)) continue;
     p.parent().remove_child(p);
     ++done;

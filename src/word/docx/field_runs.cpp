@@ -3,19 +3,20 @@
 #include <cctype>
 #include <cstring>
 
+#include "word/docx/xml_part.h"
+
 namespace word::docx {
 
 std::vector<FieldRuns> OutermostFields(pugi::xml_node root) {
   std::vector<FieldRuns> fields;
   int depth = 0;
-  for (const pugi::xpath_node& x : root.select_nodes(".//w:r | .//w:fldSimple")) {
-    pugi::xml_node run = x.node();
+  for (pugi::xml_node run : DescendantsNamed(root, {"w:r", "w:fldSimple"})) {
     if (!std::strcmp(run.name(), "w:fldSimple")) {
       if (depth > 0) continue;
       FieldRuns f;
       f.instruction = run.attribute("w:instr").value();
       f.simple = run;
-      for (const pugi::xpath_node& r : run.select_nodes(".//w:r")) f.runs.push_back(r.node());
+      f.runs = DescendantsNamed(run, {"w:r"});
       fields.push_back(std::move(f));
       continue;
     }

@@ -18,10 +18,7 @@ constexpr zip_uint64_t kMaxPartSize = 512u << 20;  // refuse zip bombs
 
 const char* const kDamaged = "文件已损坏，无法作为 .docx 文档打开。";
 
-struct ZipCloser {
-  void operator()(zip_t* z) const { zip_discard(z); }
-};
-using ZipPtr = std::unique_ptr<zip_t, ZipCloser>;
+using ZipPtr = std::unique_ptr<zip_t, Package::ZipCloser>;
 
 ZipPtr OpenBuffer(const std::string& bytes) {
   zip_error_t error;
@@ -77,13 +74,17 @@ void PutPart(zip_t* z, const std::string& name, const std::string& bytes) {
 
 }  // namespace
 
+void Package::ZipCloser::operator()(zip_t* z) const {
+  zip_discard(z);
+}
+
 Package Package::FromBytes(std::string bytes) {
   Package p;
-  p.original_ = std::move(bytes);
-  ZipPtr z = OpenBuffer(p.original_);
-  zip_int64_t n = zip_get_num_entries(z.get(), 0);
+  p.original_ = std::make_shared<const std::string>(std::move(bytes));
+  p.reader_ = OpenBuffer(*p.original_);
+  zip_int64_t n = zip_get_num_entries(p.reader_.get(), 0);
   for (zip_int64_t i = 0; i < n; ++i) {
-    const char* name = zip_get_name(z.get(), i, 0);
+    const char* name = zip_get_name(p.reader_.get(), i, 0);
     if (name) p.names_.push_back(name);
   }
   return p;
@@ -107,11 +108,10 @@ bool Package::Has(const std::string& part) const {
 
 std::optional<std::string> Package::Read(const std::string& part) const {
   if (auto it = written_.find(part); it != written_.end()) return it->second;
-  if (original_.empty() || !Has(part)) return std::nullopt;
-  ZipPtr z = OpenBuffer(original_);
-  zip_int64_t index = zip_name_locate(z.get(), part.c_str(), ZIP_FL_NOCASE);
+  if (!reader_) return std::nullopt;
+  zip_int64_t index = zip_name_locate(reader_.get(), part.c_str(), ZIP_FL_NOCASE);
   if (index < 0) return std::nullopt;
-  return ReadEntry(z.get(), index);
+  return ReadEntry(reader_.get(), index);
 }
 
 void Package::Write(const std::string& part, std::string bytes) {
@@ -130,14 +130,13 @@ void Package::SaveTo(const std::filesystem::path& file) const {
 }
 
 bool Package::WriteZip(const std::filesystem::path& temp) const {
-  if (!original_.empty()) {
+  if (original_) {
     std::ofstream out(temp, std::ios::binary);
-    out.write(original_.data(), static_cast<std::streamsize>(original_.size()));
+    out.write(original_->data(), static_cast<std::streamsize>(original_->size()));
     if (!out.flush()) return false;
   }
   int error = 0;
-  zip_t* z =
-      zip_open(temp.string().c_str(), original_.empty() ? ZIP_CREATE | ZIP_TRUNCATE : 0, &error);
+  zip_t* z = zip_open(temp.string().c_str(), original_ ? 0 : ZIP_CREATE | ZIP_TRUNCATE, &error);
   if (!z) return false;
   try {
     for (const auto& [name, bytes] : written_) PutPart(z, name, bytes);

@@ -5,14 +5,21 @@
 
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
+
+struct zip;  // libzip's archive
 
 namespace word::docx {
 
 class Package {
  public:
+  struct ZipCloser {
+    void operator()(::zip* z) const;
+  };
+
   // Throws DocxFileError for anything that is not a readable zip.
   static Package FromBytes(std::string bytes);
   static Package Empty();
@@ -30,7 +37,10 @@ class Package {
  private:
   bool WriteZip(const std::filesystem::path& temp) const;
 
-  std::string original_;  // the file's bytes; empty for a new package
+  // The file's bytes (null for a new package), where they never move, and
+  // the archive read from them, opened once for all the reads.
+  std::shared_ptr<const std::string> original_;
+  std::unique_ptr<::zip, ZipCloser> reader_;
   std::vector<std::string> names_;
   std::map<std::string, std::string> written_;
 };
