@@ -102,7 +102,11 @@ void ApplyFormat(word::Shape& shape, const FigureShape& f) {
   if (f.dashed) shape.Line().SetDashStyle(word::msoLineDash);
   if (f.axisArrows) AxisArrows(shape.Line());
   if (!f.lineVisible) shape.Line().SetVisible(false);
-  if (f.kind != ShapeKind::kLine && f.kind != ShapeKind::kFreeform) ApplyFill(shape.Fill(), f);
+  // An open freeform is never filled; a closed one keeps Word's default
+  // fill unless the figure asks for one.
+  const bool freeformFill = f.kind == ShapeKind::kFreeform && f.fill != FillKind::kNone;
+  if ((f.kind != ShapeKind::kLine && f.kind != ShapeKind::kFreeform) || freeformFill)
+    ApplyFill(shape.Fill(), f);
   if (f.kind == ShapeKind::kTextBox) shape.WrapFormat().SetType(word::wdWrapNone);
   if (f.kind == ShapeKind::kTextBox || !f.text.empty() || f.naming == Naming::kExact)
     ApplyText(shape, f);

@@ -11,6 +11,7 @@
 
 #include "runtime/error.h"
 #include "settings/database.h"
+#include "settings/record_slots.h"
 #include "settings/schema.h"
 
 namespace lp {
@@ -39,6 +40,16 @@ void CreateDefaultDatabase(const fs::path& path) {
     fs::remove(temp, ec);
     RaiseDatabaseError(rc != SQLITE_OK ? rc : SQLITE_CANTOPEN, path.string());
   }
+}
+
+// Every slot has its row, empty until its dialog first unloads. A file that
+// lacks the table is left as it is: reading a slot then says what is missing.
+void AddMissingRecordSlots(sqlite3* db) {
+  const std::string sql =
+      "WITH RECURSIVE slot(id) AS (SELECT 1 UNION ALL SELECT id + 1 FROM slot WHERE id < " +
+      std::to_string(kRecordSlotCount) +
+      ") INSERT OR IGNORE INTO record (id, Date, Time, Data) SELECT id, '', '', '' FROM slot";
+  sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr);
 }
 
 }  // namespace
@@ -95,6 +106,7 @@ void Connection::Open(const std::string& path) {
     RaiseDatabaseError(rc, path);
   }
   sqlite3_busy_timeout(raw, 2000);
+  if (mode == SQLITE_OPEN_READWRITE) AddMissingRecordSlots(raw);
 }
 
 void Connection::Close() {

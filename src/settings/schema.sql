@@ -26,18 +26,15 @@ INSERT INTO config (id, cName, blvalue, intvalue) VALUES
   (15, 'blAutoKD', -1, NULL),
   (16, 'blInlineShape', 0, NULL);
 
--- One slot per dialog that remembers its state between runs.
+-- One slot per dialog that remembers its state between runs. Its rows are
+-- added whenever the store opens (AddMissingRecordSlots), so that a file made
+-- before a slot existed gains it.
 CREATE TABLE record (
   id INTEGER PRIMARY KEY,
   Date TEXT,
   Time TEXT,
   Data TEXT
 );
-
-INSERT INTO record (id, Date, Time, Data) VALUES
-  (1, '', '', ''), (2, '', '', ''), (3, '', '', ''), (4, '', '', ''), (5, '', '', ''),
-  (6, '', '', ''), (7, '', '', ''), (8, '', '', ''), (9, '', '', ''), (10, '', '', ''),
-  (11, '', '', ''), (12, '', '', ''), (13, '', '', '');
 
 -- Key bindings: Name is the macro of the template, Value the keys.
 CREATE TABLE hotkey (

@@ -54,6 +54,12 @@ assert names == ["半径", "半径", "弧", "角标"], names
 arc = [r for r in rows if r[1] == "弧"][0]
 assert abs(float(arc[5]) - 3 * 28.4) < 0.1 and abs(float(arc[6]) - 3 * 28.4) < 0.1, arc
 PY
+  # A filled sector shows its light grey, not the white of an unfilled outline.
+  seed f.docx "扇形：【图】"
+  run sector --doc f.docx --select "【图】" --set optKind_0=1 --set chkFill=1 --click cmdOK \
+    --click cmdExit
+  unzip -p f.docx word/document.xml | grep -q '<a:solidFill><a:srgbClr val="D9D9D9"/>' ||
+    fail "the filled sector has no grey fill"
   ;;
 fangge)
   seed t.docx "田字格：【图】"

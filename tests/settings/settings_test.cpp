@@ -72,6 +72,22 @@ TEST_F(SettingsTest, RecordSlotSurvivesAndDeletionRestoresDefaults) {
   EXPECT_EQ(ReadRecordSlot(path_, 9), u"");
 }
 
+// A file made before the later dialogs existed gains their empty slots and
+// keeps what its own slots hold.
+TEST_F(SettingsTest, AnOlderFileGainsTheSlotsItLacks) {
+  ReadConfigGlobals(path_);
+  Exec("delete from record where id > 10; update record set Data='kept' where id=4;");
+  EXPECT_EQ(ReadRecordSlot(path_, 11), u"");
+  WriteRecordSlot(path_, kRecordSlotCount, u"1@@2");
+  EXPECT_EQ(ReadRecordSlot(path_, kRecordSlotCount), u"1@@2");
+  EXPECT_EQ(ReadRecordSlot(path_, 4), u"kept");
+  Database db(path_);
+  OpenDatabase(db);
+  db.DbRs.Open("select count(*) as n from record", db.DbConn);
+  EXPECT_EQ(CStrValue(db.DbRs.Value("n")), u"15");
+  CloseDatabase(db);
+}
+
 TEST_F(SettingsTest, StatementsKeepTheirBlanks) {
   EXPECT_EQ(RecordReadStatement(3), "select data from  record  where id=3");
   EXPECT_EQ(RecordReadStatement(2), "select data from  record where id =2");
