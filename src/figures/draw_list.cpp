@@ -35,6 +35,8 @@ std::unique_ptr<word::Shape> AddShape(word::Shapes& shapes, const FigureShape& f
       return shapes.AddLine(f.points[0].x, f.points[0].y, f.points[1].x, f.points[1].y);
     case ShapeKind::kRectangle:
       return shapes.AddShape(word::msoShapeRectangle, f.left, f.top, f.width, f.height);
+    case ShapeKind::kOval:
+      return shapes.AddShape(word::msoShapeOval, f.left, f.top, f.width, f.height);
     case ShapeKind::kTextBox:
       return shapes.AddTextbox(word::msoTextOrientationHorizontal, f.left, f.top, f.width,
                                f.height);
@@ -95,6 +97,9 @@ void ApplyText(word::Shape& shape, const FigureShape& f) {
   if (!f.textStyle.eastAsianFont.empty()) font.SetNameFarEast(f.textStyle.eastAsianFont);
   font.SetSize(f.textStyle.size);
   font.SetBold(f.textStyle.bold ? word::wdTrue : word::wdFalse);
+  if (f.textStyle.italic) font.SetItalic(word::wdTrue);
+  for (long at : f.textStyle.subscripts)
+    text->Characters().Item(at)->Font().SetSubscript(word::wdTrue);
   if (f.textStyle.centred) text->ParagraphFormat().SetAlignment(word::wdAlignParagraphCenter);
 }
 

@@ -15,6 +15,7 @@ struct Point {
 enum class ShapeKind {
   kLine,       // points[0] to points[1]
   kRectangle,  // left, top, width, height
+  kOval,       // left, top, width, height
   kTextBox,    // left, top, width, height, text or field
   kCurve,      // Bezier through points (3k + 1 of them)
   kFreeform,   // from points[0], open: straight segments, or curved ones
@@ -43,6 +44,8 @@ struct TextStyle {
   std::u16string eastAsianFont;
   bool centred = false;
   bool invisibleFrame = true;  // no fill and no line around the text
+  bool italic = false;
+  std::vector<long> subscripts;  // 1-based positions of the characters lowered
 };
 
 struct FigureShape {

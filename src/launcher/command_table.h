@@ -39,7 +39,7 @@ struct RoutineBinding {
 
 inline constexpr std::array<CommandRow, 41> kCommandTable{{
     {u"test", How::kRoutine, {}, true},
-    {u"dot", How::kModeless, u"frmDot", false},
+    {u"dot", How::kModeless, u"frmDot", true},
     {u"group", How::kRoutine, {}, true},
     {u"mhgs", How::kRoutine, {}, true},
     {u"functiongraph", How::kModeless, u"frmGraph", true},

@@ -119,7 +119,7 @@ figures::FigureShape Cell(int row, int col, const std::u16string& text) {
                      kGridLeft + (col - 1) * kCell, kGridTop + (row - 1) * kCell, kCell, kCell);
   cell.kind = figures::ShapeKind::kRectangle;
   cell.naming = figures::Naming::kExact;
-  cell.textStyle = {12, false, u"Times New Roman", u"宋体", true, true};
+  cell.textStyle = {12, false, u"Times New Roman", u"宋体", true, true, false, {}};
   return cell;
 }
 

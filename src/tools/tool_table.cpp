@@ -5,6 +5,7 @@
 #include "batch/frmWordBat.h"
 #include "charts/frmSXT.h"
 #include "charts/frmZFT.h"
+#include "figures/frmDot.h"
 #include "figures/frmFangGe.h"
 #include "figures/frmInterval.h"
 #include "figures/frmSector.h"
@@ -58,6 +59,7 @@ const std::array kForms{
     FormBinding{u"frmXDT", &ui::MakeForm<frmXDT>},
     FormBinding{u"frmSector", &ui::MakeForm<frmSector>},
     FormBinding{u"frmFangGe", &ui::MakeForm<frmFangGe>},
+    FormBinding{u"frmDot", &ui::MakeForm<frmDot>},
     FormBinding{u"frmZFT", &ui::MakeForm<frmZFT>},
     FormBinding{u"frmSXT", &ui::MakeForm<frmSXT>},
     FormBinding{u"frmAngle2Radian", &ui::MakeForm<frmAngle2Radian>},

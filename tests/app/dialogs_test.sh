@@ -80,6 +80,28 @@ PY
   [[ "$(sqlite3 "$db" 'select Data from record where id=10')" == "0@@1@@0@@0@@2@@1.5" ]] ||
     fail "slot: $(sqlite3 "$db" 'select Data from record where id=10')"
   ;;
+dot)
+  seed t.docx "线段：【图】"
+  cp t.docx before.docx
+  out="$(run dot --doc t.docx --set txtNames=AB --click cmdOK --click cmdExit 2>&1)"
+  [[ "$out" == *"点的名称“AB”不对"* ]] || fail "no message: $out"
+  cmp -s t.docx before.docx || fail "a refused name changed the document"
+  run dot --doc t.docx --set optMode_1=1 --set txtNames="P1'" --set txtCount=4 --set txtLength=3 \
+    --set optPlace_1=1 --click cmdExit
+  [[ "$(sqlite3 "$db" 'select Data from record where id=4')" == "1@@P1'@@4@@3@@1@@1@@0@@0@@10.5" ]] ||
+    fail "slot: $(sqlite3 "$db" 'select Data from record where id=4')"
+  # The remembered row: four points 1 cm apart, named on from P1'.
+  run dot --doc t.docx --select "【图】" --click cmdOK --click cmdExit
+  python3 "$here/figure_dump.py" t.docx > shapes.tsv
+  python3 - <<'PY'
+rows = [line.rstrip("\n").split("\t") for line in open("shapes.tsv", encoding="utf-8")]
+assert {r[0] for r in rows} == {"标点"}, rows
+assert [r[7] for r in rows if r[1] == "点名"] == ["P1′", "P2′", "P3′", "P4′"], rows
+dots = sorted(float(r[3]) for r in rows if r[1] == "点")
+assert len(dots) == 4 and all(abs(b - a - 28.4) < 0.05 for a, b in zip(dots, dots[1:])), dots
+assert len([r for r in rows if r[1] == "线段"]) == 1, rows
+PY
+  ;;
 *)
   fail "unknown check $check"
   ;;
