@@ -44,7 +44,7 @@ inline constexpr std::array<CommandRow, 41> kCommandTable{{
     {u"mhgs", How::kRoutine, {}, true},
     {u"functiongraph", How::kModeless, u"frmGraph", true},
     {u"gs", How::kRoutine, u"frmGS", true},
-    {u"shapeselecter", How::kModal, u"frmShapeSelecter", false},
+    {u"shapeselecter", How::kModal, u"frmShapeSelecter", true},
     {u"tk", How::kModeless, u"frmTK", false},
     {u"kt", How::kModeless, u"frmKT", false},
     {u"zft", How::kModeless, u"frmZFT", true},

@@ -25,7 +25,7 @@ struct RunOptions {
   std::string select;
   bool haveSelect = false;
   bool caretOnly = false;  // --caret: the found text is removed, the caret stays there
-  std::string selectShape;  // the start of a floating shape's name
+  std::string selectShape;  // the start of a floating shape's name, or several, comma-separated
   bool haveSelectShape = false;
   std::vector<ControlAction> actions;
   std::vector<std::string> answers;

@@ -10,7 +10,9 @@ namespace lp {
 bool SelectFirst(word::Application& app, const word::Text& text);
 
 // --select-shape: selects the first floating shape whose name begins with
-// prefix, as a click on a figure does; false when there is none.
-bool SelectShape(word::Application& app, const word::Text& prefix);
+// the text, as a click on a figure does; or, for a comma-separated list, the
+// first shape of each prefix together, as shift-clicks do. False when one is
+// missing.
+bool SelectShape(word::Application& app, const word::Text& names);
 
 }  // namespace lp

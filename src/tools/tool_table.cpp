@@ -9,6 +9,7 @@
 #include "figures/frmFangGe.h"
 #include "figures/frmInterval.h"
 #include "figures/frmSector.h"
+#include "figures/frmShapeSelecter.h"
 #include "figures/frmXDT.h"
 #include "formula/commands.h"
 #include "formula/frmAngle2Radian.h"
@@ -60,6 +61,7 @@ const std::array kForms{
     FormBinding{u"frmSector", &ui::MakeForm<frmSector>},
     FormBinding{u"frmFangGe", &ui::MakeForm<frmFangGe>},
     FormBinding{u"frmDot", &ui::MakeForm<frmDot>},
+    FormBinding{u"frmShapeSelecter", &ui::MakeForm<frmShapeSelecter>},
     FormBinding{u"frmZFT", &ui::MakeForm<frmZFT>},
     FormBinding{u"frmSXT", &ui::MakeForm<frmSXT>},
     FormBinding{u"frmAngle2Radian", &ui::MakeForm<frmAngle2Radian>},

@@ -102,6 +102,30 @@ assert len(dots) == 4 and all(abs(b - a - 28.4) < 0.05 for a, b in zip(dots, dot
 assert len([r for r in rows if r[1] == "线段"]) == 1, rows
 PY
   ;;
+shapeselecter)
+  seed t.docx "流程图：【图】"
+  out="$(run shapeselecter --doc t.docx --click cmdOK --click cmdExit 2>&1)"
+  [[ "$out" == *"本页没有所选类型的图形"* ]] || fail "no message on an empty page: $out"
+  run wbk_y --doc t.docx
+  run wbk_n --doc t.docx
+  run sector --doc t.docx --click cmdOK --click cmdExit
+  out="$(run shapeselecter --doc t.docx --set chkLine=0 --click cmdOK --click cmdExit 2>&1)"
+  [[ "$out" == *"请至少选择一种图形"* ]] || fail "no message without a kind: $out"
+  # The text boxes are there to be selected: the dialog closes without a word.
+  out="$(run shapeselecter --doc t.docx --set chkTextBox=1 --click cmdOK 2>&1)"
+  [[ -z "$out" ]] || fail "selecting the text boxes: $out"
+  [[ "$(sqlite3 "$db" 'select Data from record where id=15')" == "0@@0@@1@@0@@0@@0" ]] ||
+    fail "slot: $(sqlite3 "$db" 'select Data from record where id=15')"
+  # Several shapes selected by name together are what group takes in.
+  run group --doc t.docx --select-shape "Text Box 1,Text Box 2"
+  python3 "$here/figure_dump.py" t.docx > shapes.tsv
+  python3 - <<'PY'
+rows = [line.rstrip("\n").split("\t") for line in open("shapes.tsv", encoding="utf-8")]
+boxes = {r[0] for r in rows if r[1].startswith("Text Box")}
+assert len(boxes) == 1 and boxes.pop().startswith("Group"), rows
+assert {r[0] for r in rows if not r[1].startswith("Text Box")} == {"扇形"}, rows
+PY
+  ;;
 *)
   fail "unknown check $check"
   ;;

@@ -55,7 +55,11 @@ def main(path):
             xfrm = wsp.find("wps:spPr/a:xfrm", NS)
             off, ext = xfrm.find("a:off", NS), xfrm.find("a:ext", NS)
             values = [int(off.get("x")), int(off.get("y")), int(ext.get("cx")), int(ext.get("cy"))]
-            print("\t".join([group, base(wsp.find("wps:cNvPr", NS).get("name")), kind(wsp)] +
+            # A shape outside a group is named by its anchor.
+            named = wsp.find("wps:cNvPr", NS)
+            if named is None:
+                named = anchor.find("wp:docPr", NS)
+            print("\t".join([group, base(named.get("name")), kind(wsp)] +
                             ["%.2f" % (v / EMU_PER_POINT) for v in values] + [text(wsp)]))
 
 
