@@ -1,6 +1,7 @@
 #include "formula/latex_to_omml.h"
 
 #include <map>
+#include <set>
 #include <stdexcept>
 #include <vector>
 
@@ -88,11 +89,13 @@ class Parser {
     return tex_.compare(pos_, word.size(), word) == 0;
   }
 
-  // Items up to a closing brace, a row break, \end or \right.
+  // Items up to a closing brace, a row break, \end or \right, and inside
+  // parentheses up to the closing one.
   std::vector<Xml> Sequence() {
     std::vector<Xml> items;
     for (SkipBlanks(); !AtEnd(); SkipBlanks()) {
       if (Peek() == u'}' || LooksAt(u"\\\\") || LooksAt(u"\\end") || LooksAt(u"\\right")) break;
+      if (Peek() == u')' && openParentheses_ > 0) break;
       if (Peek() == u'^' || Peek() == u'_') {
         Xml base = items.empty() ? Xml() : items.back();
         if (!items.empty()) items.pop_back();
@@ -141,8 +144,29 @@ class Parser {
     if (c == u'{') return Group();
     if (c == u'}') throw BadTex();
     if (c == u'\\') return Command();
+    if (c == u'(') return Parenthesised();
     ++pos_;
     return Run(std::u16string(1, c));
+  }
+
+  // (x-a) becomes one delimiter, so that a script behind it raises the whole
+  // bracket as a built-up equation does, and readers that pair brackets
+  // never see a lone one. An unmatched "(" stays a plain character; it is
+  // remembered, so that text behind many of them is read once, not once per
+  // way of pairing them.
+  Xml Parenthesised() {
+    const size_t open = pos_++;
+    if (unmatched_.count(open)) return Run(u"(");
+    ++openParentheses_;
+    Xml inner = Join(Sequence());
+    --openParentheses_;
+    if (Peek() != u')') {
+      unmatched_.insert(open);
+      pos_ = open + 1;
+      return Run(u"(");
+    }
+    ++pos_;
+    return Wrap("d", Wrap("e", inner));
   }
 
   std::u16string CommandName() {
@@ -261,6 +285,8 @@ class Parser {
 
   std::u16string tex_;
   size_t pos_ = 0;
+  int openParentheses_ = 0;
+  std::set<size_t> unmatched_;
 };
 
 std::u16string WithoutDollars(std::u16string tex) {

@@ -44,6 +44,9 @@ TEST(LatexToOmml, Constructs) {
       {"Signs", u"a \\ge b \\ne c", "≥"},
       {"System", u"\\left\\{ \\begin{align} x+y=1 \\\\ x-y=3 \\\\ \\end{align}\\right.",
        "<m:d><m:dPr><m:begChr m:val=\"{\"/><m:endChr m:val=\"\"/></m:dPr><m:e><m:eqArr><m:e>"},
+      {"PowerOfBracket", u"(x-a)^2", "<m:sSup><m:e><m:d><m:e><m:r><m:t xml:space=\"preserve\">x"},
+      {"NestedBrackets", u"((a))", "<m:d><m:e><m:d><m:e><m:r>"},
+      {"UnmatchedBracket", u"(a+(b)", "<m:r><m:t xml:space=\"preserve\">(</m:t></m:r><m:r>"},
   };
   for (const Row& row : rows) {
     auto omml = LatexToOmml(row.tex);
@@ -52,6 +55,9 @@ TEST(LatexToOmml, Constructs) {
   }
   EXPECT_FALSE(LatexToOmml(u"\\frac{1}{`a"));
   EXPECT_FALSE(LatexToOmml(u"\\unknown"));
+  // Text behind many unmatched brackets is read once per bracket, not once
+  // per way of pairing them: this returns at once.
+  EXPECT_TRUE(LatexToOmml(std::u16string(200, u'(') + u"x"));
 }
 
 TEST(LatexToOmml, CorpusGivesSchemaValidMath) {
