@@ -7,6 +7,8 @@
 #include "formula/angle_radian.h"
 #include "formula/commands.h"
 #include "formula/insert.h"
+#include "inserts/inserts.h"
+#include "inserts/shape_tools.h"
 #include "runtime/recording_prompt.h"
 #include "session/document_init.h"
 #include "session/figure.h"
@@ -161,6 +163,41 @@ void Mhgs(lp::Session& session) {
   lp::RunMhgs(session);
 }
 
+void Fraction(lp::Session& session) {
+  lp::InsertFractionField(session);
+}
+
+void Radical(lp::Session& session) {
+  lp::InsertRadicalField(session);
+}
+
+void Arc(lp::Session& session) {
+  lp::InsertArcMark(session);
+}
+
+void Vector(lp::Session& session) {
+  lp::InsertVectorMark(session);
+}
+
+void EquationSystem(lp::Session& session) {
+  lp::InsertEquationSystem(session);
+}
+
+void RecurringDecimal(lp::Session& session) {
+  lp::InsertRecurringDecimal(session);
+}
+
+// Three boxes of widths 100, 50 and 200 at scattered places, selected
+// together and laid edge to edge from the leftmost.
+void JoinLeftToRight(lp::Session& session) {
+  word::Shapes& shapes = session.WordApp->ActiveDocument().Shapes();
+  shapes.AddShape(word::msoShapeRectangle, 100, 200, 100, 40)->SetName(u"甲");
+  shapes.AddShape(word::msoShapeRectangle, 50, 100, 50, 40)->SetName(u"乙");
+  shapes.AddShape(word::msoShapeRectangle, 200, 300, 200, 40)->SetName(u"丙");
+  shapes.Range({u"甲", u"乙", u"丙"})->Select();
+  lp::JoinLeftToRight(session);
+}
+
 }  // namespace
 
 const std::vector<Script>& Scripts() {
@@ -211,6 +248,20 @@ const std::vector<Script>& Scripts() {
       {"gs as TeX", {u"", u"x^2", u""}, &GsMathType, "$x^2$"},
       {"angle to radians", {u"", u"", u""}, &AngleToRadians, "{ EQ \\F(3`,4) }"},
       {"mhgs", {u"", u"a+b>=3", u""}, &Mhgs, "[i:a]＋[i:b]≥3"},
+      {"fraction", {u"", u"1/2", u""}, &Fraction, "{ EQ \\F(1,2)}", Fake::kCannotFollow},
+      {"radical", {u"", u"3/27", u""}, &Radical, "{ EQ \\r([size=7.5:3],27)}", Fake::kCannotFollow},
+      {"arc", {u"", u"AB", u""}, &Arc, "{ EQ \\o\\ac([size=7:\\S\\UP7(⌒)],AB) }"},
+      {"vector", {u"", u"AB", u""}, &Vector, "{ EQ \\o\\ac([size=7:\\S\\UP7(→)],AB) }"},
+      {"equation system",
+       {u"", u"x+y=5，2x-y=1", u""},
+       &EquationSystem,
+       "{ EQ \\B\\lc\\{(\\a\\al(x＋y＝5,2x－y＝1)) }"},
+      {"recurring decimal",
+       {u"", u"0.1/23", u""},
+       &RecurringDecimal,
+       "{ eq 0.1\\o(\\s\\up 3(˙),2)\\o(\\s\\up 3(˙),3)}",
+       Fake::kCannotFollow},
+      {"join left to right", {u"", u"", u""}, &JoinLeftToRight, ""},
   };
   return scripts;
 }

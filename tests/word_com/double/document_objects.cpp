@@ -79,16 +79,40 @@ const std::vector<Member>& CommandBarsMembers() {
   return members;
 }
 
+// The entry's name, from the end of its path: ...AutoTextEntries("fz").
+Text EntryName(const Object& o) {
+  const std::string& path = o.Path();
+  size_t open = path.rfind("(\"");
+  return lp::FromUtf8(path.substr(open + 2, path.size() - open - 4));
+}
+
+// An entry goes in with the formatting it was taken with, replacing the
+// range; inside a field's code it becomes part of that code. Put in at the
+// selection, it leaves the caret behind it, as typing does.
+Value InsertEntry(Object& o, Args& a) {
+  State& st = o.state();
+  Span& s = *AsObject<RangeObj>(a[0]).span;
+  Story& story = *s.story;
+  std::vector<Char> chars = st.autoTextEntries.at(EntryName(o));
+  const long start = s.start;
+  long field = start > 0 && story.chars[start - 1].ch != u'\x15' ? story.chars[start - 1].field : 0;
+  for (Char& c : chars) c.field = field;
+  const bool atSelection =
+      st.selection->story == &story && st.selection->start == start && st.selection->end == s.end;
+  st.Replace(story, start, s.end, chars);
+  if (atSelection)
+    SelectSpan(st, &story, start + static_cast<long>(chars.size()),
+               start + static_cast<long>(chars.size()));
+  return {};
+}
+
 const std::vector<Member>& AutoTextEntryMembers() {
   static const std::vector<Member> members =
       Table<Object>()
-          .Method(L"Insert", "o|b", [](Object&, Args&) -> Value { return {}; })
+          .Method(L"Insert", "o|b", &InsertEntry)
           .Method(L"Delete", "",
                   [](Object& o, Args&) -> Value {
-                    const std::string& path = o.Path();
-                    size_t open = path.rfind("(\"");
-                    o.state().autoTextEntries.erase(
-                        lp::FromUtf8(path.substr(open + 2, path.size() - open - 4)));
+                    o.state().autoTextEntries.erase(EntryName(o));
                     return {};
                   })
           .Done();
@@ -100,7 +124,9 @@ const std::vector<Member>& AutoTextEntriesMembers() {
       Table<Object>()
           .Method(L"Add", "so",
                   [](Object& o, Args& a) -> Value {
-                    o.state().autoTextEntries.insert(AsText(a[0]));
+                    Span& s = *AsObject<RangeObj>(a[1]).span;
+                    o.state().autoTextEntries[AsText(a[0])] = std::vector<Char>(
+                        s.story->chars.begin() + s.start, s.story->chars.begin() + s.end);
                     return {};
                   })
           .Read(L"Item", "s",

@@ -110,7 +110,7 @@ struct State {
   std::deque<bool> findAnswers;  // every Find.Execute answer, in order
   std::map<std::string, Kept> kept;
   std::map<std::string, double> answers;  // reads the fake takes from a script, last answer
-  std::set<Text> autoTextEntries;
+  std::map<Text, std::vector<Char>> autoTextEntries;  // their formatted text
   bool extendsAtStart = false;  // the selection grows at its start (extended leftwards)
   long nextSerial = 1, nextField = 1, madeDocuments = 0;
   Counters counters;
