@@ -179,6 +179,16 @@ std::vector<TabControl> ConicControls(const char16_t* group, std::vector<const c
   return c;
 }
 
+// What the five coefficient boxes of an ellipse or a hyperbola are called
+// in each of its five forms.
+std::vector<std::vector<const char16_t*>> ConicBoxCaptions() {
+  return {{u"a² =", u"b² =", u"", u"", u""},
+          {u"a² =", u"b² =", u"", u"", u""},
+          {u"h =", u"k =", u"a² =", u"b² =", u""},
+          {u"h =", u"k =", u"a² =", u"b² =", u""},
+          {u"A =", u"B =", u"C =", u"D =", u"E ="}};
+}
+
 GraphTab Ellipse() {
   std::vector<TabControl> c = ConicControls(
       u"TY", {u"optType_TY_0", u"optType_TY_1", u"optType_TY_2", u"optType_TY_3", u"optType_TY_4"},
@@ -192,13 +202,7 @@ GraphTab Ellipse() {
   return {u"椭圆",
           c,
           {{u"cmdOK_TY", u"确定", u"ty"}, {u"cmdCancel_TY", u"重置", u""}},
-          {{u"TY",
-            u"txtTY",
-            {{u"a² =", u"b² =", u"", u"", u""},
-             {u"a² =", u"b² =", u"", u"", u""},
-             {u"h =", u"k =", u"a² =", u"b² =", u""},
-             {u"h =", u"k =", u"a² =", u"b² =", u""},
-             {u"A =", u"B =", u"C =", u"D =", u"E ="}}}}};
+          {{u"TY", u"txtTY", ConicBoxCaptions()}}};
 }
 
 GraphTab Hyperbola() {
@@ -217,13 +221,7 @@ GraphTab Hyperbola() {
   return {u"双曲线",
           c,
           {{u"cmdOK_SQX", u"确定", u"sqx"}, {u"cmdCancel_SQX", u"重置", u""}},
-          {{u"SQX",
-            u"txtSQX",
-            {{u"a² =", u"b² =", u"", u"", u""},
-             {u"a² =", u"b² =", u"", u"", u""},
-             {u"h =", u"k =", u"a² =", u"b² =", u""},
-             {u"h =", u"k =", u"a² =", u"b² =", u""},
-             {u"A =", u"B =", u"C =", u"D =", u"E ="}}}}};
+          {{u"SQX", u"txtSQX", ConicBoxCaptions()}}};
 }
 
 GraphTab Parabola() {

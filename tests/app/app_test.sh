@@ -3,23 +3,10 @@
 set -euo pipefail
 check="$1" lp="$2" setup="$3"
 here="$(cd "$(dirname "$0")" && pwd)"
-work="$(mktemp -d)"
-trap 'rm -rf "$work"' EXIT
-cd "$work"
-db="$work/config.db"
-
-fail() { echo "FAIL: $*" >&2; exit 1; }
+. "$here/common.sh"
 body() { unzip -p "$1" word/document.xml; }
 text() { body "$1" | sed 's/<[^>]*>//g'; }
-run() { "$lp" "$@" --config "$db"; }
 dump() { python3 "$here/docx_dump.py" "$@"; }
-# seed FILE LINE...: a document holding the lines, as a teacher typed them.
-seed() {
-  local out="$1"
-  shift
-  printf '%s\n' "$@" > lines.txt
-  python3 "$here/../../demo/seed_worksheet.py" "$out" lines.txt
-}
 setting() {
   [[ -e "$db" ]] || "$lp" --eq x --config "$db" < /dev/null > /dev/null
   sqlite3 "$db" "UPDATE config SET blvalue = $2 WHERE cName = '$1'"

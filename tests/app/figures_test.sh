@@ -4,20 +4,8 @@
 set -euo pipefail
 check="$1" lp="$2"
 here="$(cd "$(dirname "$0")" && pwd)"
-work="$(mktemp -d)"
-trap 'rm -rf "$work"' EXIT
-cd "$work"
-db="$work/config.db"
-
-fail() { echo "FAIL: $*" >&2; exit 1; }
-run() { "$lp" "$@" --config "$db"; }
+. "$here/common.sh"
 shapes() { python3 "$here/figure_dump.py" "$1"; }
-seed() {
-  local out="$1"
-  shift
-  printf '%s\n' "$@" > lines.txt
-  python3 "$here/../../demo/seed_worksheet.py" "$out" lines.txt
-}
 # judge FILE PYTHON: runs the check with rows = the shapes of FILE as lists.
 judge() {
   shapes "$1" > shapes.tsv

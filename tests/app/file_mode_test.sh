@@ -5,14 +5,8 @@
 set -uo pipefail
 check="$1" lp="$2"
 here="$(cd "$(dirname "$0")" && pwd)"
-work="$(mktemp -d)"
-trap 'chmod -R u+w "$work" 2>/dev/null; rm -rf "$work"' EXIT
-cd "$work"
-db="$work/config.db"
-
-fail() { echo "FAIL: $*" >&2; exit 1; }
+. "$here/common.sh"
 skip() { echo "SKIP: $*"; exit 77; }
-run() { "$lp" "$@" --config "$db"; }
 dump() { python3 "$here/docx_dump.py" "$@"; }
 factor() { run factoring --doc "$1" --set "Text1=$2" --click Command1 --click cmdInsert --click Command2; }
 # expect STATUS PATTERN COMMAND...: the run's status, and its messages holding the pattern.

@@ -4,20 +4,8 @@
 set -euo pipefail
 check="$1" lp="$2"
 here="$(cd "$(dirname "$0")" && pwd)"
-work="$(mktemp -d)"
-trap 'rm -rf "$work"' EXIT
-cd "$work"
-db="$work/config.db"
-
-fail() { echo "FAIL: $*" >&2; exit 1; }
-run() { "$lp" "$@" --config "$db"; }
+. "$here/common.sh"
 dump() { python3 "$here/docx_dump.py" text "$1"; }
-seed() {
-  local out="$1"
-  shift
-  printf '%s\n' "$@" > lines.txt
-  python3 "$here/../../demo/seed_worksheet.py" "$out" lines.txt
-}
 # Each top-level figure as "left width", in the order of the document.
 lefts_and_widths() {
   unzip -p "$1" word/document.xml | python3 -c '
