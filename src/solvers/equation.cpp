@@ -5,22 +5,19 @@
 #include "runtime/convert.h"
 #include "runtime/text.h"
 #include "solvers/worked_text.h"
+#include "toolkit/equation_sides.h"
 #include "toolkit/exact.h"
 
 namespace lp {
 namespace {
 
-std::u16string Trimmed(double value) {
-  return Trim(Str(value));
-}
-
 std::u16string ListValue(double root) {
-  return Trimmed(Val(Format(root, u"#.####")));
+  return NumberText(Val(Format(root, u"#.####")));
 }
 
 // A number in the discriminant's sum, bracketed when negative.
 std::u16string Term(double value) {
-  return value < 0 ? u"(" + Trimmed(value) + u")" : Trimmed(value);
+  return value < 0 ? u"(" + NumberText(value) + u")" : NumberText(value);
 }
 
 int32_t CountOfSigns(const std::u16string& text) {
@@ -38,14 +35,14 @@ std::u16string StepLine(const std::u16string& equation) {
 }
 
 std::u16string StandardForm(const QuadraticSolution& q) {
-  std::u16string text = q.QuadA == 1 ? u"x^2" : q.QuadA == -1 ? u"-x^2" : Trimmed(q.QuadA) + u"x^2";
+  std::u16string text = q.QuadA == 1 ? u"x^2" : q.QuadA == -1 ? u"-x^2" : NumberText(q.QuadA) + u"x^2";
   if (q.QuadB == 1)
     text += u"+x";
   else if (q.QuadB == -1)
     text += u"-x";
   else if (q.QuadB != 0)
-    text += (q.QuadB > 0 ? u"+" : u"") + Trimmed(q.QuadB) + u"x";
-  if (q.QuadC != 0) text += (q.QuadC > 0 ? u"+" : u"") + Trimmed(q.QuadC);
+    text += (q.QuadB > 0 ? u"+" : u"") + NumberText(q.QuadB) + u"x";
+  if (q.QuadC != 0) text += (q.QuadC > 0 ? u"+" : u"") + NumberText(q.QuadC);
   return text + u"=0";
 }
 
@@ -100,16 +97,16 @@ void TypeDiscriminant(Session& session, const QuadraticSolution& q) {
   TypeDelta(session);
   selection.TypeText(u"=");
   Insert_Quadratic_Equation_To_Word(selection, Term(q.QuadB) + u"^2-4·" + Term(q.QuadA) + u"·" +
-                                                   Term(q.QuadC) + u"= " + Trimmed(q.QuadDelta));
+                                                   Term(q.QuadC) + u"= " + NumberText(q.QuadDelta));
 }
 
 void TypeDoubleRoot(word::Selection& selection, const QuadraticSolution& q) {
   double r = q.Root1;
   if (IsWhole(r)) {
-    std::u16string factor = r < 0 ? u"即 (x+" + Trimmed(-r) : u"即 (x-" + Trimmed(r);
+    std::u16string factor = r < 0 ? u"即 (x+" + NumberText(-r) : u"即 (x-" + NumberText(r);
     Insert_Quadratic_Equation_To_Word(selection, factor + u")^2=0");
     selection.TypeParagraph();
-    selection.TypeText(u"∴ x=" + Trimmed(r));
+    selection.TypeText(u"∴ x=" + NumberText(r));
     return;
   }
   Insert_Quadratic_Equation_To_Word(selection, u"即 " + Factor(q.Root1Text) + u"^2=0");
@@ -142,7 +139,7 @@ void TypeLinearSolution(word::Selection& selection, const std::u16string& equati
     selection.TypeParagraph();
   }
   double b = s.LinearB;
-  std::u16string right = b == 0 ? u"=0" : b > 0 ? u"=-" + Trimmed(b) : u"= " + Trimmed(-b);
+  std::u16string right = b == 0 ? u"=0" : b > 0 ? u"=-" + NumberText(b) : u"= " + NumberText(-b);
   selection.TypeText(XTerm(s.a) + right);
   selection.TypeParagraph();
   if (InStr(s.LinearText, u"/") > 0) {
