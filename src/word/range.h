@@ -1,6 +1,7 @@
 #pragma once
 #include <memory>
 
+#include "word/errors.h"
 #include "word/find.h"
 #include "word/font.h"
 
@@ -85,6 +86,14 @@ class Range {
   virtual std::unique_ptr<Range> Duplicate() const = 0;
   // The floating shapes anchored in the range.
   virtual std::unique_ptr<word::ShapeRange> ShapeRange() = 0;
+  // Inserts the body of a Word document (its text, fields and floating
+  // shapes, with the pictures they use) in place of the range, which then
+  // covers what came in. Added later than the members above: back ends that
+  // lack it answer as Word does for a member an object does not have.
+  virtual void InsertFile(const word::Text&) { throw UnsupportedMember(); }
+  // Writes what the range holds (its text, fields and the floating shapes
+  // anchored in it) as a Word document of its own.
+  virtual void ExportFragment(const word::Text&) { throw UnsupportedMember(); }
 };
 
 // The caret or the selected stretch of the active document. Typing replaces a

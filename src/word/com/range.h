@@ -84,6 +84,11 @@ class RangeImpl : public Base, public ComNode {
   void Select() override { Call(L"Select"); }
   std::unique_ptr<word::Range> Duplicate() const override;
   std::unique_ptr<word::ShapeRange> ShapeRange() override;
+  void InsertFile(const word::Text& fileName) override { Call(L"InsertFile", {fileName}); }
+  // 16: wdFormatDocumentDefault, the .docx format.
+  void ExportFragment(const word::Text& fileName) override {
+    Call(L"ExportFragment", {fileName, 16L});
+  }
 
  private:
   ComFont font_;

@@ -121,6 +121,12 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   // Positions of the main story shared by the caret's page (the predefined Page bookmark).
   std::pair<long, long> CaretPage();
 
+  // Range.ExportFragment: the place's content as a document of its own.
+  void ExportFragment(const Place& place, const Text& fileName);
+  // Range.InsertFile: the file's body in place of the place's content, with
+  // the parts its relationships name; the span then covers what came in.
+  void InsertFile(const Place& place, const Text& fileName);
+
   // Writes the caret into the hidden bookmark, then saves if anything changed.
   bool SaveIfChanged();
   void SaveTo(const std::filesystem::path& file);

@@ -87,6 +87,14 @@ class RangeImpl : public Base, public PlaceHolder {
   void Select() override;
   std::unique_ptr<word::Range> Duplicate() const override;
   std::unique_ptr<word::ShapeRange> ShapeRange() override;
+  void InsertFile(const word::Text& fileName) override {
+    place_.story->CheckLive();
+    place_.doc->InsertFile(place_, fileName);
+  }
+  void ExportFragment(const word::Text& fileName) override {
+    place_.story->CheckLive();
+    place_.doc->ExportFragment(place_, fileName);
+  }
 
  protected:
   long Clamp(long position) const { return std::clamp(position, 0L, place_.story->Length()); }

@@ -97,6 +97,9 @@ class RangeImpl : public Base, public Node {
   std::unique_ptr<word::Range> Duplicate() const override;
   // Every shape of the document: the fake lays out no pages.
   std::unique_ptr<word::ShapeRange> ShapeRange() override;
+  // Recorded only: the fake reads and writes no files.
+  void InsertFile(const word::Text& fileName) override { Call("InsertFile", fileName); }
+  void ExportFragment(const word::Text& fileName) override { Call("ExportFragment", fileName); }
 
  protected:
   SharedText text_;
