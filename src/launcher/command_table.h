@@ -45,7 +45,7 @@ inline constexpr std::array<CommandRow, 41> kCommandTable{{
     {u"functiongraph", How::kModeless, u"frmGraph", true},
     {u"gs", How::kRoutine, u"frmGS", true},
     {u"shapeselecter", How::kModal, u"frmShapeSelecter", true},
-    {u"tk", How::kModeless, u"frmTK", false},
+    {u"tk", How::kModeless, u"frmTK", true},
     {u"kt", How::kModeless, u"frmKT", false},
     {u"zft", How::kModeless, u"frmZFT", true},
     {u"sxt", How::kModeless, u"frmSXT", true},
@@ -71,7 +71,7 @@ inline constexpr std::array<CommandRow, 41> kCommandTable{{
     {u"inequality", How::kModeless, u"frmInequality", true},  // never reached
     {u"recurringdecimal", How::kRoutine, {}, true},
     {u"drawcenter", How::kRoutine, {}, true},
-    {u"savepic", How::kModeless, u"frmSavePic", false},
+    {u"savepic", How::kModeless, u"frmSavePic", true},
     {u"sethotkey", How::kRoutine, {}, true},
     {u"join_lr", How::kRoutine, {}, true},
     {u"join_ud", How::kRoutine, {}, true},

@@ -174,7 +174,8 @@ class Typesetter {
   FormulaBox Atom(double size, QString& sign);
   FormulaBox CommandBox(const QString& name, double size, QString& sign);
   FormulaBox Scripts(FormulaBox base, double size);
-  FormulaBox Fraction(double size);
+  // display: numerator and denominator at full size, as \dfrac sets them.
+  FormulaBox Fraction(double size, bool display);
   FormulaBox Radical(double size);
   FormulaBox Accent(const QString& name, double size);
   FormulaBox Delimited(double size);
@@ -198,7 +199,8 @@ FormulaBox Typesetter::Atom(double size, QString& sign) {
 }
 
 FormulaBox Typesetter::CommandBox(const QString& name, double size, QString& sign) {
-  if (name == u"frac" || name == u"dfrac" || name == u"tfrac") return Fraction(size);
+  if (name == u"frac" || name == u"dfrac" || name == u"tfrac")
+    return Fraction(size, name == u"dfrac");
   if (name == u"sqrt") return Radical(size);
   if (name == u"overline" || name == u"vec" || name == u"overrightarrow" || name == u"bar")
     return Accent(name, size);
@@ -259,8 +261,8 @@ FormulaBox Typesetter::Scripts(FormulaBox base, double size) {
   return out;
 }
 
-FormulaBox Typesetter::Fraction(double size) {
-  double inner = size * 0.85;
+FormulaBox Typesetter::Fraction(double size, bool display) {
+  double inner = display ? size : size * 0.85;
   FormulaBox num = Sub(Argument(), inner), den = Sub(Argument(), inner);
   double axis = 0.28 * size, gap = 0.12 * size, pad = 0.1 * size;
   double width = std::max(num.width, den.width) + 2 * pad;

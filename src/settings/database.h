@@ -90,6 +90,9 @@ class Recordset {
   void AddNew();
   // Writes the changed fields of the current row back to its table.
   void Update();
+  // Takes the current row out of its table; the recordset keeps it, marked
+  // gone, until it is opened again.
+  void Delete();
 
  private:
   friend class Field;

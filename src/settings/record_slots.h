@@ -9,8 +9,8 @@ namespace lp {
 // The slots the program owns, 1 to kRecordSlotCount: 1 unused, 2 and 3 the
 // gallery, 4 frmDot, 5 frmZFT, 6 frmXDT, 7 frmSXT, 8 frmSector, 9 frmInterval,
 // 10 frmFangGe, 11 frmAngle2Radian, 12 frmFraction, 13 frmRadicalExpression,
-// 14 frmKT, 15 frmShapeSelecter.
-constexpr int kRecordSlotCount = 15;
+// 14 frmKT, 15 frmShapeSelecter, 16 frmSavePic.
+constexpr int kRecordSlotCount = 16;
 
 // The statements of a slot, blanks as the program has always sent them.
 std::string RecordReadStatement(int id);   // "select data from  record  where id=4"

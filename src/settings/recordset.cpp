@@ -181,6 +181,19 @@ void Recordset::Update() {
   row.changed.assign(columns_.size(), false);
 }
 
+void Recordset::Delete() {
+  Row& row = CurrentRow();
+  if (table_.empty()) throw RuntimeError(3251);
+  if (row.rowid == 0) return;
+  sqlite3* db = conn_->Handle();
+  Statement st;
+  const std::string sql = "delete from " + table_ + " where rowid = ?";
+  if (sqlite3_prepare_v2(db, sql.c_str(), -1, &st.stmt, nullptr) != SQLITE_OK) RaiseSqlError(db);
+  sqlite3_bind_int64(st.stmt, 1, row.rowid);
+  if (sqlite3_step(st.stmt) != SQLITE_DONE) RaiseSqlError(db);
+  row.rowid = 0;
+}
+
 const DbValue& Field::Value() const {
   return rs_.CurrentRow().values[column_];
 }

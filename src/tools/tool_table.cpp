@@ -16,6 +16,8 @@
 #include "formula/frmFraction.h"
 #include "formula/frmGS.h"
 #include "formula/frmRadicalExpression.h"
+#include "gallery/frmSavePic.h"
+#include "gallery/frmTK.h"
 #include "graph/frmGraph.h"
 #include "inserts/commands.h"
 #include "solvers/commands.h"
@@ -71,6 +73,8 @@ const std::array kForms{
     FormBinding{u"frmInequality", &ui::MakeForm<frmInequality>},
     FormBinding{u"frmEquation", &ui::MakeForm<frmEquation>},
     FormBinding{u"frmA_C", &ui::MakeForm<frmA_C>},
+    FormBinding{u"frmSavePic", &ui::MakeForm<frmSavePic>},
+    FormBinding{u"frmTK", &ui::MakeForm<frmTK>},
 };
 
 }  // namespace

@@ -67,7 +67,7 @@ unmatched_words)
   ;;
 settings)
   run test --doc t.docx
-  [[ "$(sqlite3 "$db" "select count(*) from record where Data = ''")" == 15 ]] || fail "record slots"
+  [[ "$(sqlite3 "$db" "select count(*) from record where Data = ''")" == 16 ]] || fail "record slots"
   [[ "$(sqlite3 "$db" "select intvalue from config where cName = 'intK'")" == 5 ]] || fail "intK"
   sqlite3 "$db" "update record set Data = 'kept' where id = 9"
   run test --doc t.docx

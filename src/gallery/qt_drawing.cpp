@@ -1,0 +1,194 @@
+#include "gallery/qt_drawing.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+
+#include "pictures/qt_formula.h"
+
+namespace lp::gallery {
+namespace {
+
+constexpr double kMarginPoints = 4;
+
+QColor ColorOf(long rgb) {
+  return QColor((rgb >> 16) & 0xFF, (rgb >> 8) & 0xFF, rgb & 0xFF);
+}
+
+// A run laid out at a scale: its font or formula, and its size in pixels.
+struct RunBox {
+  const TextRun* run = nullptr;
+  QFont font;
+  std::unique_ptr<FormulaPicture> formula;
+  double width = 0, ascent = 0, descent = 0;
+};
+
+struct LineBox {
+  std::vector<RunBox> runs;
+  double width = 0, ascent = 0, descent = 0;
+  int alignment = 0;
+};
+
+RunBox LayOut(const TextRun& run, double scale) {
+  RunBox box;
+  box.run = &run;
+  const double pixels = run.size * scale * (run.script != 0 && !run.formula ? 0.65 : 1.0);
+  if (run.formula) {
+    box.formula = std::make_unique<FormulaPicture>(QString::fromStdU16String(run.text), pixels);
+    box.width = box.formula->Size().width();
+    box.ascent = box.formula->Baseline();
+    box.descent = box.formula->Size().height() - box.ascent;
+    return box;
+  }
+  box.font = QFont(QStringLiteral("Times New Roman"));
+  box.font.setFamilies({QStringLiteral("Times New Roman"), QStringLiteral("SimSun"),
+                        QStringLiteral("Noto Serif CJK SC"), QStringLiteral("serif")});
+  box.font.setPixelSize(std::max(1, static_cast<int>(std::lround(pixels))));
+  box.font.setItalic(run.italic);
+  box.font.setBold(run.bold);
+  const QFontMetricsF metrics(box.font);
+  box.width = metrics.horizontalAdvance(QString::fromStdU16String(run.text));
+  const double shift = run.script * run.size * scale * 0.35;
+  box.ascent = metrics.ascent() + shift;
+  box.descent = metrics.descent() - shift;
+  return box;
+}
+
+std::vector<LineBox> LayOutLines(const std::vector<TextLine>& lines, double scale) {
+  std::vector<LineBox> boxes;
+  for (const TextLine& line : lines) {
+    LineBox box;
+    box.alignment = line.alignment;
+    for (const TextRun& run : line.runs) {
+      box.runs.push_back(LayOut(run, scale));
+      box.width += box.runs.back().width;
+      box.ascent = std::max(box.ascent, box.runs.back().ascent);
+      box.descent = std::max(box.descent, box.runs.back().descent);
+    }
+    if (box.runs.empty()) box.ascent = 10.5 * scale;  // an empty paragraph keeps its height
+    boxes.push_back(std::move(box));
+  }
+  return boxes;
+}
+
+void PaintLines(QPainter& painter, const std::vector<LineBox>& lines, QPointF topLeft,
+                double boxWidth, double scale) {
+  double y = topLeft.y();
+  for (const LineBox& line : lines) {
+    double x = topLeft.x();
+    if (line.alignment == 1) x += (boxWidth - line.width) / 2;
+    if (line.alignment == 2) x += boxWidth - line.width;
+    const double baseline = y + line.ascent;
+    for (const RunBox& run : line.runs) {
+      const QColor color = ColorOf(run.run->rgb);
+      if (run.formula) {
+        run.formula->Paint(painter, QPointF(x, baseline - run.ascent), color);
+      } else {
+        painter.setFont(run.font);
+        painter.setPen(color);
+        const double shift = run.run->script * run.run->size * scale * 0.35;
+        painter.drawText(QPointF(x, baseline - shift), QString::fromStdU16String(run.run->text));
+      }
+      x += run.width;
+    }
+    y = baseline + line.descent + 0.15 * (line.ascent + line.descent);
+  }
+}
+
+QPen PenOf(const Stroke& stroke, double scale) {
+  QPen pen(ColorOf(stroke.rgb), std::max(1.0, stroke.width * scale));
+  pen.setCapStyle(Qt::FlatCap);
+  pen.setJoinStyle(Qt::MiterJoin);
+  if (stroke.dashed) pen.setStyle(Qt::DashLine);
+  return pen;
+}
+
+QPainterPath PathOf(const std::vector<PathStep>& steps, double scale, QPointF origin) {
+  QPainterPath path;
+  const auto at = [&](const Point& p) { return origin + QPointF(p.x * scale, p.y * scale); };
+  for (const PathStep& step : steps) {
+    if (step.kind == PathStep::kMove && !step.points.empty()) path.moveTo(at(step.points[0]));
+    if (step.kind == PathStep::kLine)
+      for (const Point& p : step.points) path.lineTo(at(p));
+    if (step.kind == PathStep::kCubic && step.points.size() == 3)
+      path.cubicTo(at(step.points[0]), at(step.points[1]), at(step.points[2]));
+    if (step.kind == PathStep::kClose) path.closeSubpath();
+  }
+  return path;
+}
+
+// A filled arrowhead at `tip`, pointing away from `from`.
+void Arrowhead(QPainter& painter, QPointF from, QPointF tip, const Stroke& stroke, double scale) {
+  const QPointF d = tip - from;
+  const double length = std::hypot(d.x(), d.y());
+  if (length <= 0) return;
+  const QPointF u = d / length, n(-u.y(), u.x());
+  const double size = (3 + 3 * stroke.width) * scale;
+  QPolygonF head{tip, tip - u * size + n * size * 0.45, tip - u * size - n * size * 0.45};
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(ColorOf(stroke.rgb));
+  painter.drawPolygon(head);
+}
+
+void PaintArrows(QPainter& painter, const QPainterPath& path, const Stroke& stroke, double scale) {
+  const int n = path.elementCount();
+  if (n < 2) return;
+  if (stroke.beginArrow) Arrowhead(painter, path.elementAt(1), path.elementAt(0), stroke, scale);
+  if (stroke.endArrow)
+    Arrowhead(painter, path.elementAt(n - 2), path.elementAt(n - 1), stroke, scale);
+}
+
+void PaintItem(QPainter& painter, const Item& item, double scale, QPointF origin) {
+  const QRectF box(origin + QPointF(item.topLeft.x * scale, item.topLeft.y * scale),
+                   origin + QPointF(item.bottomRight.x * scale, item.bottomRight.y * scale));
+  painter.setPen(item.stroke.visible ? PenOf(item.stroke, scale) : QPen(Qt::NoPen));
+  painter.setBrush(item.fill.visible ? QBrush(ColorOf(item.fill.rgb)) : QBrush(Qt::NoBrush));
+  if (item.kind == Item::kEllipse) {
+    painter.drawEllipse(box);
+  } else if (item.kind == Item::kPath) {
+    const QPainterPath path = PathOf(item.path, scale, origin);
+    painter.drawPath(path);
+    if (item.stroke.visible) PaintArrows(painter, path, item.stroke, scale);
+  } else {
+    const std::vector<LineBox> lines = LayOutLines(item.lines, scale);
+    const QPointF inset(item.insetLeft * scale, item.insetTop * scale);
+    PaintLines(painter, lines, box.topLeft() + inset, box.width() - 2 * inset.x(), scale);
+  }
+}
+
+// A list of text alone (a formula) has no size of its own: its lines give it.
+DrawingList Measured(const DrawingList& drawing, double scale) {
+  DrawingList sized = drawing;
+  if (sized.width > 0 || sized.items.empty()) return sized;
+  const std::vector<LineBox> lines = LayOutLines(sized.items[0].lines, scale);
+  double width = 0, height = 0;
+  for (const LineBox& line : lines) {
+    width = std::max(width, line.width);
+    height += (line.ascent + line.descent) * 1.15;
+  }
+  sized.width = width / scale;
+  sized.height = height / scale;
+  sized.items[0].bottomRight = {sized.width, sized.height};
+  return sized;
+}
+
+}  // namespace
+
+QImage RenderDrawing(const DrawingList& drawing, double dpi) {
+  const double scale = dpi / 72.0;
+  const DrawingList sized = Measured(drawing, scale);
+  const double margin = kMarginPoints * scale;
+  const int width = std::max(1, static_cast<int>(std::ceil(sized.width * scale + 2 * margin)));
+  const int height = std::max(1, static_cast<int>(std::ceil(sized.height * scale + 2 * margin)));
+  QImage image(width, height, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setRenderHint(QPainter::TextAntialiasing);
+  for (const Item& item : sized.items) PaintItem(painter, item, scale, QPointF(margin, margin));
+  return image;
+}
+
+}  // namespace lp::gallery
