@@ -84,7 +84,7 @@ TEST_F(SettingsTest, AnOlderFileGainsTheSlotsItLacks) {
   Database db(path_);
   OpenDatabase(db);
   db.DbRs.Open("select count(*) as n from record", db.DbConn);
-  EXPECT_EQ(CStrValue(db.DbRs.Value("n")), u"15");
+  EXPECT_EQ(CStrValue(db.DbRs.Value("n")), u"16");
   CloseDatabase(db);
 }
 

@@ -167,7 +167,7 @@ void DocxDocument::ExportFragment(const Place& place, const Text& fileName) {
   pugi::xml_node body = fragment.document_element().child("w:body");
   if (!body) throw DocxFileError("文件不是 Word 文档：找不到正文。");
   FillBody(body, Capture(place));
-  Package copy = package_;
+  Package copy = package_.Copy();
   copy.Write(mainPart_, SerializeXml(fragment));
   copy.SaveTo(PathOf(fileName));
 }

@@ -94,6 +94,15 @@ Package Package::Empty() {
   return Package();
 }
 
+Package Package::Copy() const {
+  Package p;
+  p.original_ = original_;
+  if (original_) p.reader_ = OpenBuffer(*original_);
+  p.names_ = names_;
+  p.written_ = written_;
+  return p;
+}
+
 bool Package::Has(const std::string& part) const {
   if (written_.count(part)) return true;
   auto lower = [](std::string s) {

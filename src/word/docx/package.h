@@ -23,6 +23,9 @@ class Package {
   // Throws DocxFileError for anything that is not a readable zip.
   static Package FromBytes(std::string bytes);
   static Package Empty();
+  // The same parts, written ones included, as a package of its own that the
+  // copy's writes leave the original untouched; the file's bytes are shared.
+  Package Copy() const;
 
   bool Has(const std::string& part) const;
   // The part's bytes; nullopt if absent. Throws DocxFileError if unreadable.
