@@ -150,6 +150,23 @@ TEST(DocxFile, CaretPositionOnThePageAndItsPage) {
   EXPECT_EQ(page->End(), doc.Content()->End());
 }
 
+// A new document has Word's grid of 15.6-point lines: a line of the body
+// size takes one pitch, a heading of 16 points two.
+TEST(DocxFile, LinesTakeWholePitchesOfTheGrid) {
+  TempDir dir;
+  auto app = OpenDocx(dir / "grid.docx");
+  auto& sel = app->Selection();
+  sel.TypeText(u"正文");
+  sel.TypeParagraph();
+  EXPECT_NEAR(sel.Information(wdVerticalPositionRelativeToPage), 72 + 15.6, 0.1);
+  sel.Font().SetSize(16);
+  sel.TypeText(u"标题");
+  sel.TypeParagraph();
+  sel.Font().SetSize(10.5f);
+  sel.TypeText(u"正文");
+  EXPECT_NEAR(sel.Information(wdVerticalPositionRelativeToPage), 72 + 3 * 15.6, 0.1);
+}
+
 TEST(DocxFile, RunRaisesForUnknownMacrosAndTurnsTexIntoEquations) {
   TempDir dir;
   auto app = OpenDocx(dir / "tex.docx");

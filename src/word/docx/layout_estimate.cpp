@@ -43,6 +43,15 @@ float LineHeight(pugi::xml_node own, pugi::xml_node defaults, float fontSize) {
   return !std::strcmp(rule, "exact") ? line : std::max(single, line);
 }
 
+// On a document grid of lines a line takes as many whole pitches as its
+// height needs: a heading in a larger size takes two. Exact spacing keeps
+// its height.
+float OnGrid(float height, float pitch, pugi::xml_node own, pugi::xml_node defaults) {
+  pugi::xml_node spacing = own.attribute("w:line") ? own : defaults;
+  if (pitch <= 0 || !std::strcmp(spacing.attribute("w:lineRule").value(), "exact")) return height;
+  return std::max(1.0f, std::ceil(height / pitch - 0.01f)) * pitch;
+}
+
 struct Paragraph {
   long start = 0, end = 0;  // positions, end = the mark
   float lineHeight = 15.6f, fontSize = 10.5f, before = 0, after = 0, indent = 0;
@@ -64,8 +73,8 @@ std::vector<Paragraph> Paragraphs(const StoryIndex& ix, const StyleSheet& styles
     p.fontSize = f.halfPoints.value_or(21) / 2.0f;
     pugi::xml_node pPr = node.child("w:pPr");
     pugi::xml_node spacing = pPr.child("w:spacing");
-    p.lineHeight =
-        std::max(LineHeight(spacing, styles.DefaultSpacing(), p.fontSize), page.linePitch);
+    p.lineHeight = OnGrid(LineHeight(spacing, styles.DefaultSpacing(), p.fontSize), page.linePitch,
+                          spacing, styles.DefaultSpacing());
     p.before = Spacing(spacing, styles.DefaultSpacing(), "w:before", 0);
     p.after = Spacing(spacing, styles.DefaultSpacing(), "w:after", 0);
     p.indent = Twips(pPr.child("w:ind"), "w:left", 0);
