@@ -16,7 +16,7 @@ namespace lp {
 namespace {
 
 constexpr int kRecordSlot = 16;
-constexpr double kPreviewDpi = 96;
+constexpr double kPreviewDpi = 144;
 constexpr int kPreviewSide = 320;
 
 }  // namespace
@@ -80,15 +80,18 @@ void frmSavePic::ShowPreview() {
     return;
   }
   const QImage preview = gallery::RenderDrawing(*drawing_, kPreviewDpi);
-  picPreview->setPixmap(QPixmap::fromImage(preview).scaled(
-      kPreviewSide, kPreviewSide * 3 / 4, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-  const gallery::PictureSettings settings =
-      gallery::CheckPictureSettings(u"x", txtDpi->text().toStdU16String());
-  if (!settings.error.empty()) {
-    labSize->setText(QString::fromStdU16String(settings.error));
+  const QSize box(kPreviewSide, kPreviewSide * 3 / 4);
+  // Shrunk to the box when larger, never blown up past its resolution.
+  const QImage shown = preview.width() > box.width() || preview.height() > box.height()
+                           ? preview.scaled(box, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+                           : preview;
+  picPreview->setPixmap(QPixmap::fromImage(shown));
+  const std::optional<double> dpi = gallery::CheckResolution(txtDpi->text().toStdU16String());
+  if (!dpi) {
+    labSize->setText(QString::fromStdU16String(gallery::kResolutionRefused));
     return;
   }
-  const double scale = settings.dpi / kPreviewDpi;
+  const double scale = *dpi / kPreviewDpi;
   labSize->setText(QStringLiteral("图片大小：约 %1 × %2 像素")
                        .arg(qRound(preview.width() * scale))
                        .arg(qRound(preview.height() * scale)));

@@ -54,10 +54,15 @@ bool InsertEntry(Session& session, long id) {
   if (!LoadEntryFile(session.databasePath, id, file.path, session.prompt)) return false;
   word::Application& app = *session.WordApp;
   GetCaretAnchor(session);
+  word::Document& document = app.ActiveDocument();
   std::unique_ptr<word::Range> at = app.Selection().Range();
   at->Collapse(word::wdCollapseEnd);
+  const long start = at->Start(), before = document.Content()->End();
   at->InsertFile(FromUtf8(file.path));
-  std::unique_ptr<word::ShapeRange> shapes = at->ShapeRange();
+  // What came in is told by the body's growth, whether or not the range
+  // grew over it.
+  const long length = document.Content()->End() - before;
+  std::unique_ptr<word::ShapeRange> shapes = document.Range(start, start + length)->ShapeRange();
   if (shapes->Count() > 0) PlaceAtCaret(session, *shapes);
   return true;
 }

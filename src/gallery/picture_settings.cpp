@@ -23,6 +23,14 @@ bool IsPlainNumber(const std::u16string& text) {
 
 }  // namespace
 
+std::optional<double> CheckResolution(const std::u16string& dpi) {
+  const std::u16string resolution = Trim(dpi);
+  if (resolution.empty() || !IsPlainNumber(resolution)) return std::nullopt;
+  const double value = Val(resolution);
+  if (value < kMinDpi || value > kMaxDpi) return std::nullopt;
+  return value;
+}
+
 PictureSettings CheckPictureSettings(const std::u16string& file, const std::u16string& dpi) {
   PictureSettings settings;
   const std::u16string name = Trim(file);
@@ -30,13 +38,12 @@ PictureSettings CheckPictureSettings(const std::u16string& file, const std::u16s
     settings.error = u"请输入图片的文件名！";
     return settings;
   }
-  const std::u16string resolution = Trim(dpi);
-  if (resolution.empty() || !IsPlainNumber(resolution) || Val(resolution) < kMinDpi ||
-      Val(resolution) > kMaxDpi) {
-    settings.error = u"分辨率应是 36 到 1200 之间的数！";
+  const std::optional<double> resolution = CheckResolution(dpi);
+  if (!resolution) {
+    settings.error = kResolutionRefused;
     return settings;
   }
-  settings.dpi = Val(resolution);
+  settings.dpi = *resolution;
   settings.path = ToUtf8(name);
   std::string extension = std::filesystem::path(settings.path).extension().string();
   for (char& c : extension) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));

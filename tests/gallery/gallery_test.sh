@@ -10,16 +10,7 @@ skip=77
 for tool in sqlite3 soffice pdftoppm; do
   command -v "$tool" > /dev/null || { echo "$tool missing: skipped"; exit $skip; }
 done
-work="$(mktemp -d)"
-trap 'rm -rf "$work"' EXIT
-cd "$work"
-db="$work/config.db"
-fail() { echo "FAIL: $*" >&2; exit 1; }
-run() { "$lp" "$@" --config "$db"; }
-seed() {
-  printf '%s\n' "$2" > lines.txt
-  python3 "$here/../../demo/seed_worksheet.py" "$1" lines.txt
-}
+. "$here/../app/common.sh"
 count() { sqlite3 "$db" "select count(*) from big where id > 2"; }
 names() { sqlite3 "$db" "select Name from big where id > 2 order by id" | tr '\n' '|'; }
 shapes() { unzip -p "$1" word/document.xml | grep -o '<wp:anchor' | wc -l; }

@@ -10,15 +10,7 @@ skip=77
 for tool in djpeg soffice pdftoppm sqlite3; do
   command -v "$tool" > /dev/null || { echo "$tool missing: skipped"; exit $skip; }
 done
-work="$(mktemp -d)"
-trap 'rm -rf "$work"' EXIT
-cd "$work"
-fail() { echo "FAIL: $*" >&2; exit 1; }
-run() { "$lp" "$@" --config "$work/config.db"; }
-seed() {
-  printf '%s\n' "$2" > lines.txt
-  python3 "$here/../../demo/seed_worksheet.py" "$1" lines.txt
-}
+. "$here/../app/common.sh"
 box() { python3 "$here/dark_box.py" "$1"; }
 
 # Width and height of two dark boxes agree within tol pixels plus pct percent.

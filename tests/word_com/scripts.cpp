@@ -175,6 +175,15 @@ void Arc(lp::Session& session) {
   lp::InsertArcMark(session);
 }
 
+// The gallery's way in and out of a document: the selection written as a
+// fragment, and a fragment inserted behind it.
+void Fragment(lp::Session& session) {
+  auto range = session.WordApp->Selection().Range();
+  range->ExportFragment(u"C:\\lumenpad\\fragment.docx");
+  range->Collapse(word::wdCollapseEnd);
+  range->InsertFile(u"C:\\lumenpad\\fragment.docx");
+}
+
 void Vector(lp::Session& session) {
   lp::InsertVectorMark(session);
 }
@@ -262,6 +271,7 @@ const std::vector<Script>& Scripts() {
        "{ eq 0.1\\o(\\s\\up 3(˙),2)\\o(\\s\\up 3(˙),3)}",
        Fake::kCannotFollow},
       {"join left to right", {u"", u"", u""}, &JoinLeftToRight, ""},
+      {"fragment out and in", {u"", u"AB", u""}, &Fragment, "AB"},
   };
   return scripts;
 }

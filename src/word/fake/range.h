@@ -99,7 +99,10 @@ class RangeImpl : public Base, public Node {
   std::unique_ptr<word::ShapeRange> ShapeRange() override;
   // Recorded only: the fake reads and writes no files.
   void InsertFile(const word::Text& fileName) override { Call("InsertFile", fileName); }
-  void ExportFragment(const word::Text& fileName) override { Call("ExportFragment", fileName); }
+  // 16: the .docx format, as the COM back end asks for it.
+  void ExportFragment(const word::Text& fileName) override {
+    Call("ExportFragment", fileName, 16L);
+  }
 
  protected:
   SharedText text_;

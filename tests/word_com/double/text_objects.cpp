@@ -176,6 +176,10 @@ std::vector<Member> RangeMembers() {
             [](RangeObj& r, Args&) -> Value {
               return RangeOf(r.state(), r.Path() + ".Duplicate", *r.span);
             })
+      // The double keeps no files: a fragment's calls are recorded and
+      // checked for their arguments only.
+      .Method(L"InsertFile", "s|sbbb", [](RangeObj&, Args&) -> Value { return {}; })
+      .Method(L"ExportFragment", "sl", [](RangeObj&, Args&) -> Value { return {}; })
       .Done();
 }
 
