@@ -118,7 +118,11 @@ class EqParser {
     for (const std::u16string& arg : sw.args) {
       if (arg.find(u'→') != std::u16string::npos)
         mark = u"\\vec";
-      else if (arg.find(u'⌒') != std::u16string::npos || arg == u"^{-}")
+      else if (arg.find(u'⌒') != std::u16string::npos)
+        mark = u"\\overarc";
+      else if (arg.find(u'˙') != std::u16string::npos)
+        mark = u"\\dot";
+      else if (arg == u"^{-}")
         mark = u"\\overline";
       else
         base += arg;

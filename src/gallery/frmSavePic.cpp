@@ -3,6 +3,7 @@
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QPixmap>
+#include <algorithm>
 
 #include "gallery/picture_settings.h"
 #include "gallery/qt_drawing.h"
@@ -18,6 +19,7 @@ namespace {
 constexpr int kRecordSlot = 16;
 constexpr double kPreviewDpi = 144;
 constexpr int kPreviewSide = 320;
+constexpr double kMostEnlarged = 3;
 
 }  // namespace
 
@@ -81,10 +83,13 @@ void frmSavePic::ShowPreview() {
   }
   const QImage preview = gallery::RenderDrawing(*drawing_, kPreviewDpi);
   const QSize box(kPreviewSide, kPreviewSide * 3 / 4);
-  // Shrunk to the box when larger, never blown up past its resolution.
-  const QImage shown = preview.width() > box.width() || preview.height() > box.height()
-                           ? preview.scaled(box, Qt::KeepAspectRatio, Qt::SmoothTransformation)
-                           : preview;
+  // A small formula is drawn again at the resolution that fills the box; a
+  // large figure is shrunk to it.
+  const double fill = std::min(static_cast<double>(box.width()) / preview.width(),
+                               static_cast<double>(box.height()) / preview.height());
+  const QImage shown =
+      fill > 1 ? gallery::RenderDrawing(*drawing_, kPreviewDpi * std::min(fill, kMostEnlarged))
+               : preview.scaled(box, Qt::KeepAspectRatio, Qt::SmoothTransformation);
   picPreview->setPixmap(QPixmap::fromImage(shown));
   const std::optional<double> dpi = gallery::CheckResolution(txtDpi->text().toStdU16String());
   if (!dpi) {

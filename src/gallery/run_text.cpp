@@ -227,8 +227,11 @@ class OmmlWriter {
     if (name == "m:bar" || name == "m:acc") {
       const std::u16string chr =
           Utf16(e.child("m:accPr").child("m:chr").attribute("m:val").value());
-      return (chr == u"→" || chr == u"⃗" ? u"\\vec{" : u"\\overline{") + Children(e.child("m:e")) +
-             u"}";
+      const char16_t* accent = chr == u"→" || chr == u"⃗"    ? u"\\vec{"
+                               : chr == u"⌒" || chr == u"⏜" ? u"\\overarc{"
+                               : chr == u"˙" || chr == u"̇"  ? u"\\dot{"
+                                                            : u"\\overline{";
+      return accent + Children(e.child("m:e")) + u"}";
     }
     if (name == "m:d") {
       pugi::xml_node dPr = e.child("m:dPr");

@@ -202,7 +202,8 @@ FormulaBox Typesetter::CommandBox(const QString& name, double size, QString& sig
   if (name == u"frac" || name == u"dfrac" || name == u"tfrac")
     return Fraction(size, name == u"dfrac");
   if (name == u"sqrt") return Radical(size);
-  if (name == u"overline" || name == u"vec" || name == u"overrightarrow" || name == u"bar")
+  if (name == u"overline" || name == u"vec" || name == u"overrightarrow" || name == u"bar" ||
+      name == u"overarc" || name == u"dot")
     return Accent(name, size);
   if (name == u"left") return Delimited(size);
   if (name == u"begin") {
@@ -312,6 +313,22 @@ FormulaBox Typesetter::Radical(double size) {
 FormulaBox Typesetter::Accent(const QString& name, double size) {
   FormulaBox b = Sub(Argument(), size);
   double y = -(b.ascent + 0.1 * size);
+  if (name == u"overarc") {  // the arc over the letters of an arc, AB with ⌒
+    QPainterPath arc;
+    arc.moveTo(0, y);
+    arc.quadTo(b.width / 2, y - 0.35 * size, b.width, y);
+    b.pieces.push_back({Piece::kPath, {}, {}, {}, {}, arc, size / 18});
+    b.ascent += 0.35 * size;
+    return b;
+  }
+  if (name == u"dot") {  // the dot of a recurring digit
+    const double r = size / 30;
+    QPainterPath dot;
+    dot.addEllipse(QPointF(b.width / 2, y + r), r / 2, r / 2);
+    b.pieces.push_back({Piece::kPath, {}, {}, {}, {}, dot, r});
+    b.ascent += 0.15 * size;
+    return b;
+  }
   b.pieces.push_back({Piece::kRule, {}, {}, {}, QLineF(0, y, b.width, y), {}, size / 18});
   if (name == u"vec" || name == u"overrightarrow") {
     QPainterPath head;

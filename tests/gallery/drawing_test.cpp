@@ -23,6 +23,8 @@ TEST(EqCodeToLatex, TheSwitchesTheFormulaEngineWrites) {
       {"raised", u"x\\S\\UP6(2)", u"x^{2}"},
       {"lowered", u"a\\S\\DO3(n)", u"a_{n}"},
       {"vector", u"\\o\\ac(\\S\\UP7(→),AB)", u"\\vec{AB}"},
+      {"arc", u"\\o\\ac(\\S\\UP7(⌒),AB)", u"\\overarc{AB}"},
+      {"recurring digit", u"0.1\\o(\\s\\up 3(˙),2)", u"0.1\\dot{2}"},
       {"system", u"\\B\\lc\\{(\\a\\al(x＋y＝1,x－y＝3))",
        u"\\left\\{\\begin{array}{l}x＋y＝1\\\\x－y＝3\\end{array}\\right."},
       {"escaped brace, stray bracket, blanks", u" \\{a) ", u"\\{a)"},
