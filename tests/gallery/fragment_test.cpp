@@ -167,5 +167,27 @@ TEST(Fragment, InsertFileCopiesThePicturesItsShapesUse) {
   EXPECT_EQ(package.Read(part)->size(), 2350u);
 }
 
+// A fragment without the picture leaves the picture's part behind, and
+// still opens.
+TEST(Fragment, APictureTheFragmentDoesNotShowStaysBehind) {
+  const fs::path corpus =
+      fs::path(LP_SHARED_DIR) / "corpus/docx/powertools/WC067-Textbox-Image.docx";
+  LP_SKIP_WITHOUT_SHARED(corpus);
+  Files files;
+  const fs::path copy = files("image2.docx"), fragment = files("image2_f.docx");
+  fs::copy_file(corpus, copy);
+  auto app = word::docx::OpenDocx(copy);
+  word::Document& document = app->ActiveDocument();
+  const long end = document.Content()->End();
+  ASSERT_EQ(document.Range(end - 1, end)->ShapeRange()->Count(), 0);
+  document.Range(end - 1, end)->ExportFragment(FromUtf8(fragment.string()));
+  std::ifstream in(fragment, std::ios::binary);
+  const auto package = word::docx::Package::FromBytes(
+      std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()));
+  EXPECT_FALSE(package.Has("word/media/image1.tmp"));
+  EXPECT_EQ(package.Read("word/_rels/document.xml.rels")->find("media/image1"), std::string::npos);
+  EXPECT_NO_THROW(word::docx::OpenDocx(fragment));
+}
+
 }  // namespace
 }  // namespace lp::gallery

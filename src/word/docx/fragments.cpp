@@ -159,6 +159,62 @@ void DeclareNamespacesOf(pugi::xml_node source, pugi::xml_node target) {
   mine.set_value(merged.c_str());
 }
 
+// What a relationship of these kinds names belongs to the content it stands
+// in; whatever is not left in the fragment's body goes.
+bool ContentRelationship(const std::string& type) {
+  static const char* const kKinds[] = {"image",
+                                       "oleObject",
+                                       "package",
+                                       "chart",
+                                       "hyperlink",
+                                       "video",
+                                       "audio",
+                                       "media",
+                                       "diagramData",
+                                       "diagramLayout",
+                                       "diagramQuickStyle",
+                                       "diagramColors",
+                                       "diagramDrawing"};
+  const std::string kind = type.substr(type.find_last_of('/') + 1);
+  return std::any_of(std::begin(kKinds), std::end(kKinds),
+                     [&](const char* k) { return kind == k; });
+}
+
+// Whether any relationships part still names the part.
+bool StillNamed(const Package& package, const std::string& part) {
+  const std::string base = part.substr(part.find_last_of('/') + 1);
+  for (const std::string& name : package.Parts()) {
+    if (!name.ends_with(".rels")) continue;
+    if (auto rels = package.Read(name); rels && rels->find(base) != std::string::npos) return true;
+  }
+  return false;
+}
+
+// The pictures and objects only the rest of the document used stay behind,
+// so that a fragment is as small as what it holds.
+void DropUnusedContent(Package& package, const std::string& mainPart, const std::string& body) {
+  const std::string relsPart = RelsPartOf(mainPart);
+  pugi::xml_document rels;
+  auto bytes = package.Read(relsPart);
+  if (!bytes || !ParseXml(*bytes, rels)) return;
+  std::vector<std::string> dropped;
+  pugi::xml_node root = rels.child("Relationships");
+  for (pugi::xml_node r = root.first_child(); r;) {
+    const pugi::xml_node next = r.next_sibling();
+    const std::string id = r.attribute("Id").value();
+    if (ContentRelationship(r.attribute("Type").value()) &&
+        body.find("\"" + id + "\"") == std::string::npos) {
+      if (std::strcmp(r.attribute("TargetMode").value(), "External") != 0)
+        dropped.push_back(ResolveTarget(mainPart, r.attribute("Target").value()));
+      root.remove_child(r);
+    }
+    r = next;
+  }
+  package.Write(relsPart, SerializeXml(rels));
+  for (const std::string& part : dropped)
+    if (!StillNamed(package, part)) package.Remove(part);
+}
+
 }  // namespace
 
 void DocxDocument::ExportFragment(const Place& place, const Text& fileName) {
@@ -168,7 +224,9 @@ void DocxDocument::ExportFragment(const Place& place, const Text& fileName) {
   if (!body) throw DocxFileError("文件不是 Word 文档：找不到正文。");
   FillBody(body, Capture(place));
   Package copy = package_.Copy();
-  copy.Write(mainPart_, SerializeXml(fragment));
+  const std::string xml = SerializeXml(fragment);
+  DropUnusedContent(copy, mainPart_, xml);
+  copy.Write(mainPart_, xml);
   copy.SaveTo(PathOf(fileName));
 }
 

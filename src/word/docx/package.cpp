@@ -2,6 +2,7 @@
 
 #include <zip.h>
 
+#include <algorithm>
 #include <cctype>
 #include <cstdio>
 #include <fstream>
@@ -100,6 +101,7 @@ Package Package::Copy() const {
   if (original_) p.reader_ = OpenBuffer(*original_);
   p.names_ = names_;
   p.written_ = written_;
+  p.removed_ = removed_;
   return p;
 }
 
@@ -117,6 +119,7 @@ bool Package::Has(const std::string& part) const {
 
 std::optional<std::string> Package::Read(const std::string& part) const {
   if (auto it = written_.find(part); it != written_.end()) return it->second;
+  if (std::find(removed_.begin(), removed_.end(), part) != removed_.end()) return std::nullopt;
   if (!reader_) return std::nullopt;
   zip_int64_t index = zip_name_locate(reader_.get(), part.c_str(), ZIP_FL_NOCASE);
   if (index < 0) return std::nullopt;
@@ -124,7 +127,21 @@ std::optional<std::string> Package::Read(const std::string& part) const {
 }
 
 void Package::Write(const std::string& part, std::string bytes) {
+  std::erase(removed_, part);
   written_[part] = std::move(bytes);
+}
+
+void Package::Remove(const std::string& part) {
+  written_.erase(part);
+  std::erase(names_, part);
+  removed_.push_back(part);
+}
+
+std::vector<std::string> Package::Parts() const {
+  std::vector<std::string> parts = names_;
+  for (const auto& [name, bytes] : written_)
+    if (std::find(parts.begin(), parts.end(), name) == parts.end()) parts.push_back(name);
+  return parts;
 }
 
 void Package::SaveTo(const std::filesystem::path& file) const {
@@ -148,6 +165,10 @@ bool Package::WriteZip(const std::filesystem::path& temp) const {
   zip_t* z = zip_open(temp.string().c_str(), original_ ? 0 : ZIP_CREATE | ZIP_TRUNCATE, &error);
   if (!z) return false;
   try {
+    for (const std::string& name : removed_) {
+      const zip_int64_t index = zip_name_locate(z, name.c_str(), 0);
+      if (index >= 0) Check(zip_delete(z, static_cast<zip_uint64_t>(index)) == 0);
+    }
     for (const auto& [name, bytes] : written_) PutPart(z, name, bytes);
   } catch (const std::runtime_error&) {
     zip_discard(z);

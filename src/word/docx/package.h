@@ -31,6 +31,10 @@ class Package {
   // The part's bytes; nullopt if absent. Throws DocxFileError if unreadable.
   std::optional<std::string> Read(const std::string& part) const;
   void Write(const std::string& part, std::string bytes);
+  // Takes the part out of the package; the next save leaves it behind.
+  void Remove(const std::string& part);
+  // The names of the parts the package holds now.
+  std::vector<std::string> Parts() const;
   bool Written(const std::string& part) const { return written_.count(part) > 0; }
 
   // Writes the package to a temporary file and puts it in the place of `file`
@@ -46,6 +50,7 @@ class Package {
   std::unique_ptr<::zip, ZipCloser> reader_;
   std::vector<std::string> names_;
   std::map<std::string, std::string> written_;
+  std::vector<std::string> removed_;
 };
 
 // The relationships part that belongs to a part: word/document.xml ->
