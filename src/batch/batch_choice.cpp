@@ -11,12 +11,12 @@ bool AnyDeleteChosen(const BatchChoice& c) {
 bool AnyDocumentWork(const BatchChoice& c) {
   if (c.tab == 0) return c.blankLine || c.pageHeader || c.linkInShape || c.linkInText || c.fileInfo;
   return !c.change[2].empty() || !c.change[4].empty() || c.align[0] || c.align[1] || c.scale[0] ||
-         c.scale[1];
+         c.scale[1] || c.eqToOmml;
 }
 
 std::optional<std::u16string> RefusalOf(const BatchChoice& c) {
   if (c.tab == 1) {
-    if (c.change[1].empty() && !c.align[0] && !c.scale[0] && !c.scale[1])
+    if (c.change[1].empty() && !c.align[0] && !c.scale[0] && !c.scale[1] && !c.eqToOmml)
       return u"您还没有指定需要修改的项目和内容。请检查！";
     if (!c.activeDocument && c.folder.empty()) return u"您还没有指定word文档所在的目录";
     return std::nullopt;

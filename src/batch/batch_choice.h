@@ -22,6 +22,7 @@ struct BatchChoice {
   std::array<bool, 2> align{};  // centre formulas on the text; put raised/lowered ones back
   std::array<bool, 2> scale{};  // formulas, pictures
   std::array<std::u16string, 2> scaleText{u"0.75", u"0.8"};
+  bool eqToOmml = false;  // EQ fields become native equations
 };
 
 // One of the deleting choices of tab 0 is set.

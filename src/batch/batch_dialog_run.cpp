@@ -13,14 +13,17 @@ namespace {
 BatchReport OnActiveDocument(word::Application& app, const BatchChoice& choice) {
   word::Document& doc = app.ActiveDocument();
   app.SetScreenUpdating(false);
+  std::vector<std::u16string> left;
   try {
-    RunOperations(doc, choice);
+    left = RunOperations(doc, choice);
   } catch (...) {
     app.SetScreenUpdating(true);
     throw;
   }
   app.SetScreenUpdating(true);
-  return {u"批处理任务已经完成，请检查！", {}};
+  BatchSummary s;
+  if (!left.empty()) s.withLeftFields.push_back({PathOf(doc.FullName()), FileResult::kDone, {}, {}, left});
+  return {u"批处理任务已经完成，请检查！", LeftFieldsLine(s)};
 }
 
 // Backups first: a file whose copy failed is not touched.
@@ -31,7 +34,7 @@ FileList WithBackups(const FileList& files, BatchSummary& failures) {
     if (std::find(failed.begin(), failed.end(), file) == failed.end()) {
       kept.push_back(file);
     } else {
-      failures.failed.push_back({file, FileResult::kFailed, u"无法备份，未处理", {}});
+      failures.failed.push_back({file, FileResult::kFailed, u"无法备份，未处理", {}, {}});
     }
   }
   return kept;
@@ -50,7 +53,7 @@ BatchReport OnFolder(word::Application& app, const BatchChoice& choice, const Ba
   if (choice.backup) files = WithBackups(files, notDone);
   BatchSummary s;
   if (AnyDocumentWork(choice)) {
-    BatchRun run{app, [&](word::Document& doc) { RunOperations(doc, choice); }, !choice.fast,
+    BatchRun run{app, [&](word::Document& doc) { return RunOperations(doc, choice); }, !choice.fast,
                  SofficeConverter(),
                  [&](int done, int total, const FileOutcome& o) {
                    if (view.caption)
@@ -65,7 +68,8 @@ BatchReport OnFolder(word::Application& app, const BatchChoice& choice, const Ba
   FileList renamed = files;
   renamed.insert(renamed.end(), s.made.begin(), s.made.end());
   Rename(choice, renamed);
-  return {ClosingCaption(s), SummaryLine(s)};
+  const std::u16string left = LeftFieldsLine(s);
+  return {ClosingCaption(s), SummaryLine(s) + (left.empty() ? u"" : u"\n" + left)};
 }
 
 }  // namespace

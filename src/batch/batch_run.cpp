@@ -20,33 +20,35 @@ std::u16string Why(const std::exception& e) {
 }
 
 // Open, work, save, close. A document the work fails on is closed unsaved,
-// so that its file stays as it was.
-void WorkOn(BatchRun& run, const fs::path& file) {
+// so that its file stays as it was. The codes of the EQ fields left.
+std::vector<std::u16string> WorkOn(BatchRun& run, const fs::path& file) {
   word::Document& doc = run.app.Documents().Open(PathText(file), run.visible);
+  std::vector<std::u16string> left;
   try {
-    run.work(doc);
+    left = run.work(doc);
     doc.Save();
   } catch (...) {
     doc.Close(false);
     throw;
   }
   doc.Close(false);
+  return left;
 }
 
 FileOutcome ProcessFile(BatchRun& run, const fs::path& file) {
-  FileOutcome out{file, FileResult::kDone, {}, {}};
+  FileOutcome out{file, FileResult::kDone, {}, {}, {}};
   try {
     if (IsOldWordFile(file) && run.convert) {
       Conversion c = run.convert(file);
-      if (!c.docx) return {file, FileResult::kSkipped, c.why, {}};
+      if (!c.docx) return {file, FileResult::kSkipped, c.why, {}, {}};
       out.made = *c.docx;
       out.result = FileResult::kConverted;
-      WorkOn(run, *c.docx);
+      out.leftFields = WorkOn(run, *c.docx);
       return out;
     }
-    WorkOn(run, file);
+    out.leftFields = WorkOn(run, file);
   } catch (const std::exception& e) {
-    return {file, FileResult::kFailed, Why(e), out.made};
+    return {file, FileResult::kFailed, Why(e), out.made, {}};
   }
   return out;
 }
@@ -57,6 +59,7 @@ void Count(BatchSummary& s, const FileOutcome& o) {
   if (o.result == FileResult::kConverted) ++s.converted;
   if (o.result == FileResult::kSkipped) s.skipped.push_back(o);
   if (o.result == FileResult::kFailed) s.failed.push_back(o);
+  if (!o.leftFields.empty()) s.withLeftFields.push_back(o);
 }
 
 // One thread: Word's objects live in the caller's apartment.
@@ -146,6 +149,19 @@ std::u16string SummaryLine(const BatchSummary& s) {
       names +=
           (names.empty() ? u"：" : u"、") + PathText(o.file.filename()) + u"（" + o.why + u"）";
   return line + names + u"。";
+}
+
+std::u16string LeftFieldsLine(const BatchSummary& s) {
+  if (s.withLeftFields.empty()) return {};
+  size_t count = 0;
+  std::u16string names;
+  for (const FileOutcome& o : s.withLeftFields) {
+    count += o.leftFields.size();
+    std::u16string codes;
+    for (const std::u16string& code : o.leftFields) codes += (codes.empty() ? u"" : u"；") + code;
+    names += (names.empty() ? u"：" : u"、") + PathText(o.file.filename()) + u"（" + codes + u"）";
+  }
+  return u"未能转为Word公式的EQ域" + Trim(Str(static_cast<double>(count))) + u"个" + names + u"。";
 }
 
 }  // namespace lp::batch

@@ -21,6 +21,7 @@ struct FileOutcome {
   FileResult result = FileResult::kDone;
   std::u16string why;          // for a skipped or failed file
   std::filesystem::path made;  // the .docx converted from an old file
+  std::vector<std::u16string> leftFields;  // codes of the EQ fields left unconverted
 };
 
 struct BatchSummary {
@@ -28,6 +29,7 @@ struct BatchSummary {
   int converted = 0;
   FileList made;  // the .docx files made from old files
   std::vector<FileOutcome> skipped, failed;
+  std::vector<FileOutcome> withLeftFields;  // done, with EQ fields left as they were
   bool cancelled = false;
 };
 
@@ -45,7 +47,9 @@ using BatchProgress = std::function<bool(int done, int total, const FileOutcome&
 
 struct BatchRun {
   word::Application& app;
-  std::function<void(word::Document&)> work;
+  // The work on one document; what it returns are the codes of the EQ
+  // fields it left.
+  std::function<std::vector<std::u16string>(word::Document&)> work;
   bool visible = true;
   DocConverter convert;  // empty: an old file the back end can't open fails
   BatchProgress progress;
@@ -59,5 +63,7 @@ bool IsOldWordFile(const std::filesystem::path& file);
 // The closing caption and the line after it.
 std::u16string ClosingCaption(const BatchSummary& s);
 std::u16string SummaryLine(const BatchSummary& s);
+// The EQ fields left unconverted, file by file; empty when there are none.
+std::u16string LeftFieldsLine(const BatchSummary& s);
 
 }  // namespace lp::batch

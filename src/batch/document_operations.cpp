@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "formula/eq_to_omml.h"
 #include "runtime/text.h"
 
 namespace lp::batch {
@@ -85,20 +86,31 @@ void ScalePictures(word::Document& doc, double factor) {
   if (factor != 0 && factor != 1) doc.ScalePictures(factor);
 }
 
-void RunOperations(word::Document& doc, const BatchChoice& c) {
+std::vector<std::u16string> EqFieldsToEquations(word::Document& doc) {
+  std::vector<std::u16string> left;
+  for (const std::u16string& code : doc.ConvertEqFields(EqFieldToOmml).unconverted)
+    left.push_back(Trim(code));
+  return left;
+}
+
+std::vector<std::u16string> RunOperations(word::Document& doc, const BatchChoice& c) {
   if (c.tab == 0) {
     if (c.blankLine) DelBlankLine(doc);
     if (c.pageHeader) DelPageHeaderFooter(doc);
     if (c.linkInShape) DelLinkInShape(doc);
     if (c.linkInText) DelLinkInTxt(doc);
     if (c.fileInfo) DelFileInfo(doc, c.fileInfoWords);
-    return;
+    return {};
   }
+  // First, so that alignment and scaling reach the new equations as well.
+  std::vector<std::u16string> left;
+  if (c.eqToOmml) left = EqFieldsToEquations(doc);
   if (c.align[0]) AlignFormulas(doc, c.align[1]);
   if (!c.change[2].empty()) ChangeFileInfo(doc, c.change[2], c.change[3]);
   if (!c.change[4].empty()) ChangeFileContent(doc, c.change[4], c.change[5]);
   ScaleFormulas(doc, ScaleFactor(c, 0));
   ScalePictures(doc, ScaleFactor(c, 1));
+  return left;
 }
 
 }  // namespace lp::batch

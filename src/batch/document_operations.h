@@ -22,8 +22,13 @@ void AlignFormulas(word::Document& doc, bool unshift);
 void ScaleFormulas(word::Document& doc, double factor);
 void ScalePictures(word::Document& doc, double factor);
 
-// The chosen operations of the choice's tab, in the order a run applies them.
-void RunOperations(word::Document& doc, const BatchChoice& choice);
+// Every EQ field of the document that converts becomes a native equation;
+// the codes of the fields left as they were.
+std::vector<std::u16string> EqFieldsToEquations(word::Document& doc);
+
+// The chosen operations of the choice's tab, in the order a run applies them;
+// the codes of the EQ fields the conversion left.
+std::vector<std::u16string> RunOperations(word::Document& doc, const BatchChoice& choice);
 
 // The keywords of a list typed with "," or "，" between them, blanks trimmed.
 std::vector<std::u16string> SplitKeywords(const std::u16string& text);

@@ -156,6 +156,10 @@ QWidget* frmWordBat::MakeChangeTab() {
     scaleRow->addWidget(txtFS[i], 0, 2 * i + 1);
   }
   box->addWidget(scale);
+  // Beyond Word's own changes: EQ fields, which only Word and WPS show,
+  // become equations that LibreOffice and phones show as well.
+  chkEqToOmml = Check(tab, "chkEqToOmml", "EQ域公式转为Word公式");
+  box->addWidget(chkEqToOmml);
   return tab;
 }
 
@@ -211,6 +215,7 @@ batch::BatchChoice frmWordBat::Choice() const {
     c.scale[i] = chkFS[i]->isChecked();
     c.scaleText[i] = TextOf(txtFS[i]);
   }
+  c.eqToOmml = chkEqToOmml->isChecked();
   return c;
 }
 

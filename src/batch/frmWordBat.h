@@ -40,6 +40,7 @@ class frmWordBat : public ui::Form {
   std::array<QLineEdit*, 6> txtFile_Change;
   std::array<QCheckBox*, 2> chkDQ, chkFS;
   std::array<QLineEdit*, 2> txtFS;
+  QCheckBox* chkEqToOmml;
   QTabWidget* SSTab1;
   QProgressBar* prgFiles;
   QLabel *labFile, *labSummary;

@@ -5,12 +5,12 @@
 #include <stdexcept>
 #include <vector>
 
-#include "runtime/utf8.h"
+#include "formula/omml_writer.h"
 
 namespace lp {
 namespace {
 
-using Xml = std::string;
+using namespace omml;
 
 struct BadTex : std::runtime_error {
   BadTex() : std::runtime_error("bad TeX") {}
@@ -37,36 +37,6 @@ const std::map<std::u16string, std::u16string>& Symbols() {
   return symbols;
 }
 
-Xml Escape(const std::u16string& text) {
-  Xml out;
-  for (char c : ToUtf8(text)) {
-    if (c == '&')
-      out += "&amp;";
-    else if (c == '<')
-      out += "&lt;";
-    else if (c == '>')
-      out += "&gt;";
-    else
-      out += c;
-  }
-  return out;
-}
-
-Xml Run(const std::u16string& text, bool upright = false) {
-  Xml props = upright ? "<m:rPr><m:sty m:val=\"p\"/></m:rPr>" : "";
-  return "<m:r>" + props + "<m:t xml:space=\"preserve\">" + Escape(text) + "</m:t></m:r>";
-}
-
-Xml Join(const std::vector<Xml>& items) {
-  Xml out;
-  for (const Xml& item : items) out += item;
-  return out;
-}
-
-Xml Wrap(const char* tag, const Xml& inner) {
-  return "<m:" + Xml(tag) + ">" + inner + "</m:" + Xml(tag) + ">";
-}
-
 // Recursive descent over the TeX text; each parse routine returns the OMML
 // of what it read.
 class Parser {
@@ -76,7 +46,7 @@ class Parser {
   Xml Document() {
     Xml body = Join(Sequence());
     if (pos_ < tex_.size()) throw BadTex();
-    return Wrap("oMath", body);
+    return Math(body);
   }
 
  private:
@@ -117,10 +87,7 @@ class Parser {
       (up ? sup : sub) = Argument();
       (up ? hasSup : hasSub) = true;
     }
-    Xml e = Wrap("e", base);
-    if (hasSup && hasSub) return Wrap("sSubSup", e + Wrap("sub", sub) + Wrap("sup", sup));
-    if (hasSup) return Wrap("sSup", e + Wrap("sup", sup));
-    return Wrap("sSub", e + Wrap("sub", sub));
+    return omml::Scripts(base, sub, sup, hasSub, hasSup);
   }
 
   // One argument: a braced group, a command with its own arguments, or one
@@ -182,14 +149,11 @@ class Parser {
     std::u16string name = CommandName();
     if (name == u"frac") {
       Xml num = Argument();
-      return Wrap("f", Wrap("num", num) + Wrap("den", Argument()));
+      return Fraction(num, Argument());
     }
     if (name == u"sqrt") return Root();
-    if (name == u"overline")
-      return Wrap("bar", "<m:barPr><m:pos m:val=\"top\"/></m:barPr>" + Wrap("e", Argument()));
-    if (name == u"vec")
-      return Wrap("acc",
-                  "<m:accPr><m:chr m:val=\"\xE2\x83\x97\"/></m:accPr>" + Wrap("e", Argument()));
+    if (name == u"overline") return Bar(Argument());
+    if (name == u"vec") return Accent(u"\u20D7", Argument());
     if (name == u"mathrm") return Upright();
     if (name == u"left") return Delimited();
     if (name == u"begin") return Aligned();
@@ -200,9 +164,7 @@ class Parser {
 
   Xml Root() {
     SkipBlanks();
-    if (Peek() != u'[')
-      return Wrap("rad",
-                  "<m:radPr><m:degHide m:val=\"1\"/></m:radPr><m:deg/>" + Wrap("e", Argument()));
+    if (Peek() != u'[') return Radical({}, Argument());
     ++pos_;
     std::vector<Xml> degree;
     for (SkipBlanks(); Peek() != u']'; SkipBlanks()) {
@@ -210,7 +172,7 @@ class Parser {
       degree.push_back(Atom());
     }
     ++pos_;
-    return Wrap("rad", Wrap("deg", Join(degree)) + Wrap("e", Argument()));
+    return Radical(Join(degree), Argument());
   }
 
   // {\mathrm O}: the letter set upright.
@@ -220,14 +182,14 @@ class Parser {
     if (Peek() != u'{') {
       text = std::u16string(1, Peek());
       ++pos_;
-      return Run(text, true);
+      return Run(text, "p");
     }
     for (++pos_; Peek() != u'}'; ++pos_) {
       if (AtEnd()) throw BadTex();
       if (Peek() != u' ') text += Peek();
     }
     ++pos_;
-    return Run(text, true);
+    return Run(text, "p");
   }
 
   std::u16string Delimiter() {
@@ -249,9 +211,7 @@ class Parser {
     if (!LooksAt(u"\\right")) throw BadTex();
     pos_ += 6;
     std::u16string close = Delimiter();
-    Xml props = "<m:dPr><m:begChr m:val=\"" + Escape(open) + "\"/><m:endChr m:val=\"" +
-                Escape(close) + "\"/></m:dPr>";
-    return Wrap("d", props + Wrap("e", inner));
+    return omml::Delimited(open, close, inner);
   }
 
   // \begin{align} rows \\ rows \\ \end{align}: one equation array.
@@ -262,14 +222,14 @@ class Parser {
       Xml row = Join(Sequence());
       if (LooksAt(u"\\\\")) {
         pos_ += 2;
-        rows.push_back(Wrap("e", row));
+        rows.push_back(row);
         continue;
       }
       if (!LooksAt(u"\\end")) throw BadTex();
-      if (!row.empty()) rows.push_back(Wrap("e", row));
+      if (!row.empty()) rows.push_back(row);
       pos_ += 4;
       if (EnvironmentName() != env) throw BadTex();
-      return Wrap("eqArr", Join(rows));
+      return EquationArray(rows);
     }
   }
 

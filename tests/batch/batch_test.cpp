@@ -108,13 +108,15 @@ TEST(DocumentOperations, OrderOfEachTab) {
   c.change[4] = u"旧";
   c.change[5] = u"新";
   c.scale = {true, true};
+  c.eqToOmml = true;
   RunOperations(doc, c);
   std::vector<std::string> calls;
   for (const std::string& line : fake.Calls())
     if (line.find("BuiltIn") == std::string::npos) calls.push_back(line.substr(line.find('.') + 1));
   EXPECT_EQ(calls, (std::vector<std::string>{"DeleteBlankParagraphs()", "DeleteHeadersFooters()",
                                              "DeleteShapeHyperlinks()", "DeleteTextHyperlinks()",
-                                             "AlignFormulas(True)", "ReplaceAllText(\"旧\",\"新\")",
+                                             "ConvertEqFields()", "AlignFormulas(True)",
+                                             "ReplaceAllText(\"旧\",\"新\")",
                                              "ScaleFormulas(0.75)", "ScalePictures(0.8)"}));
 }
 

@@ -3,7 +3,7 @@
 //   batch_tool OPERATION FOLDER [ARGUMENT...]
 // OPERATION: blank | headers | textlinks | shapelinks | delinfo WORDS |
 // changeinfo FROM TO | replace FROM TO | formulas FACTOR | pictures FACTOR |
-// align | tab0 | backup. Prints one line per file and the closing lines.
+// align | eq | tab0 | backup. Prints one line per file and the closing lines.
 
 #include <cstdio>
 #include <string>
@@ -16,25 +16,36 @@
 
 namespace {
 
-using Work = std::function<void(word::Document&)>;
+using Work = std::function<std::vector<std::u16string>(word::Document&)>;
+
+// An operation that leaves no fields behind.
+Work Plain(std::function<void(word::Document&)> f) {
+  return [f](word::Document& d) {
+    f(d);
+    return std::vector<std::u16string>();
+  };
+}
 
 Work WorkFor(const std::string& op, const std::vector<std::u16string>& a) {
   using namespace lp::batch;
-  if (op == "blank") return DelBlankLine;
-  if (op == "headers") return DelPageHeaderFooter;
-  if (op == "textlinks") return DelLinkInTxt;
-  if (op == "shapelinks") return DelLinkInShape;
-  if (op == "delinfo") return [a](word::Document& d) { DelFileInfo(d, a.at(0)); };
-  if (op == "changeinfo") return [a](word::Document& d) { ChangeFileInfo(d, a.at(0), a.at(1)); };
-  if (op == "replace") return [a](word::Document& d) { ChangeFileContent(d, a.at(0), a.at(1)); };
-  if (op == "formulas") return [a](word::Document& d) { ScaleFormulas(d, lp::Val(a.at(0))); };
-  if (op == "pictures") return [a](word::Document& d) { ScalePictures(d, lp::Val(a.at(0))); };
-  if (op == "align") return [](word::Document& d) { AlignFormulas(d, true); };
+  if (op == "blank") return Plain(DelBlankLine);
+  if (op == "headers") return Plain(DelPageHeaderFooter);
+  if (op == "textlinks") return Plain(DelLinkInTxt);
+  if (op == "shapelinks") return Plain(DelLinkInShape);
+  if (op == "delinfo") return Plain([a](word::Document& d) { DelFileInfo(d, a.at(0)); });
+  if (op == "changeinfo")
+    return Plain([a](word::Document& d) { ChangeFileInfo(d, a.at(0), a.at(1)); });
+  if (op == "replace")
+    return Plain([a](word::Document& d) { ChangeFileContent(d, a.at(0), a.at(1)); });
+  if (op == "formulas") return Plain([a](word::Document& d) { ScaleFormulas(d, lp::Val(a.at(0))); });
+  if (op == "pictures") return Plain([a](word::Document& d) { ScalePictures(d, lp::Val(a.at(0))); });
+  if (op == "align") return Plain([](word::Document& d) { AlignFormulas(d, true); });
+  if (op == "eq") return EqFieldsToEquations;
   if (op == "tab0" || op == "backup") {
     BatchChoice c;
     c.blankLine = c.pageHeader = c.linkInShape = c.linkInText = c.fileInfo = true;
     c.fileInfoWords = u"a,e";
-    return [c](word::Document& d) { RunOperations(d, c); };
+    return [c](word::Document& d) { return RunOperations(d, c); };
   }
   return nullptr;
 }
@@ -58,7 +69,8 @@ int main(int argc, char** argv) {
     return true;
   };
   lp::batch::BatchSummary s = lp::batch::RunFiles(run, files);
-  std::printf("%s\n%s\n", lp::ToUtf8(lp::batch::ClosingCaption(s)).c_str(),
-              lp::ToUtf8(lp::batch::SummaryLine(s)).c_str());
+  std::printf("%s\n%s\n%s\n", lp::ToUtf8(lp::batch::ClosingCaption(s)).c_str(),
+              lp::ToUtf8(lp::batch::SummaryLine(s)).c_str(),
+              lp::ToUtf8(lp::batch::LeftFieldsLine(s)).c_str());
   return s.failed.empty() ? 0 : 1;
 }

@@ -101,6 +101,7 @@ class ComDocument : public Document, public ComNode {
   long ScaleFormulas(double factor) override;
   long ScalePictures(double factor) override;
   long AlignFormulas(bool unshift) override;
+  word::EqConversion ConvertEqFields(const word::EqFieldConverter& convert) override;
   void Save() override { Call(L"Save"); }
   void SaveAs(const word::Text& path) override { Call(L"SaveAs", {path}); }
   void Close(bool saveChanges) override { Call(L"Close", {saveChanges}); }

@@ -182,4 +182,12 @@ long ComDocument::AlignFormulas(bool unshift) {
   return done;
 }
 
+// Word's own EQ fields are not rebuilt as equations through Word: the file
+// is left as it was and the teacher told why.
+word::EqConversion ComDocument::ConvertEqFields(const word::EqFieldConverter&) {
+  throw word::ComError(word::kNotSupported,
+                       "在 Word 中运行时不能把 EQ 域转为 Word 公式；请关闭 Word 后，"
+                       "由 lumenpad 直接处理这些 .docx 文件。");
+}
+
 }  // namespace word::com

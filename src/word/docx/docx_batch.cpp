@@ -7,6 +7,7 @@
 #include "runtime/utf8.h"
 #include "word/docx/batch_edits.h"
 #include "word/docx/docx_document.h"
+#include "word/docx/eq_fields.h"
 #include "word/docx/selection.h"
 #include "word/docx/xml_part.h"
 
@@ -111,6 +112,15 @@ long DocxDocument::ScalePictures(double factor) {
 
 long DocxDocument::AlignFormulas(bool unshift) {
   return EditMain([&](pugi::xml_node root) { return AlignFormulaParagraphs(root, unshift); });
+}
+
+EqConversion DocxDocument::ConvertEqFields(const EqFieldConverter& convert) {
+  EqConversion result;
+  EditMain([&](pugi::xml_node root) {
+    result = ReplaceEqFields(root, convert, styles_);
+    return result.converted;
+  });
+  return result;
 }
 
 }  // namespace word::docx

@@ -74,6 +74,7 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   long ScaleFormulas(double factor) override;
   long ScalePictures(double factor) override;
   long AlignFormulas(bool unshift) override;
+  EqConversion ConvertEqFields(const EqFieldConverter& convert) override;
   // Saves nothing when nothing changed and the file is there, as Word does.
   void Save() override;
   void SaveAs(const Text& path) override;

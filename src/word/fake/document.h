@@ -117,6 +117,9 @@ class FakeDocument : public Document, public Node {
   long ScaleFormulas(double factor) override;
   long ScalePictures(double factor) override;
   long AlignFormulas(bool unshift) override;
+  word::EqConversion ConvertEqFields(const word::EqFieldConverter&) override {
+    return {Edit("ConvertEqFields"), {}};
+  }
   void Save() override { Call("Save"); }
   void SaveAs(const word::Text& path) override;
   void Close(bool saveChanges) override;

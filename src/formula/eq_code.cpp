@@ -1,0 +1,216 @@
+#include "formula/eq_code.h"
+
+namespace lp {
+namespace {
+
+constexpr int kDeepest = 32;  // no formula nests further; a code that does is refused
+
+bool IsLetter(char16_t c) {
+  return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
+}
+
+bool IsDigit(char16_t c) {
+  return c >= u'0' && c <= u'9';
+}
+
+char16_t Upper(char16_t c) {
+  return c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - u'a' + u'A') : c;
+}
+
+// The closing partner of a bracket the \BC option names.
+char16_t Mirror(char16_t open) {
+  switch (open) {
+    case u'(':
+      return u')';
+    case u'[':
+      return u']';
+    case u'{':
+      return u'}';
+    case u'<':
+      return u'>';
+    default:
+      return open;
+  }
+}
+
+// What the options of one switch said.
+struct Options {
+  bool down = false, overline = false, underline = false;
+  long columns = 1;
+  char16_t open = u'(', close = u')';
+  bool bracketsSet = false;
+};
+
+class EqParser {
+ public:
+  explicit EqParser(const std::u16string& code) : s_(code) {}
+
+  EqRow Code() {
+    SkipBlanks();
+    if (Upper(At(pos_)) != u'E' || Upper(At(pos_ + 1)) != u'Q') throw EqCodeError("not EQ");
+    pos_ += 2;
+    return Row(0);
+  }
+
+ private:
+  char16_t At(size_t i) const { return i < s_.size() ? s_[i] : u'\0'; }
+  bool AtEnd() const { return pos_ >= s_.size(); }
+  void SkipBlanks() {
+    while (!AtEnd() && (s_[pos_] == u' ' || s_[pos_] == u'\u3000')) ++pos_;
+  }
+
+  EqNode Char(size_t at) {
+    EqNode n;
+    n.ch = s_[at];
+    n.source = at;
+    return n;
+  }
+
+  // Items up to the "," or ")" that ends an argument (inside a switch's
+  // brackets) or to the end of the code. Brackets that are text pair up,
+  // and a comma inside them is text.
+  EqRow Row(int depth) {
+    if (depth > kDeepest) throw EqCodeError("too deep");
+    EqRow row;
+    int open = 0;
+    for (SkipBlanks(); !AtEnd(); SkipBlanks()) {
+      const char16_t c = s_[pos_];
+      if (depth > 0 && open == 0 && (c == u',' || c == u')')) break;
+      if (c == u'\\') {
+        row.push_back(Backslash(depth));
+        continue;
+      }
+      if (c == u'(') ++open;
+      if (c == u')' && open > 0) --open;
+      row.push_back(Char(pos_++));
+    }
+    return row;
+  }
+
+  // A switch with its options and arguments, or an escaped character.
+  EqNode Backslash(int depth) {
+    ++pos_;
+    if (AtEnd()) throw EqCodeError("backslash at the end");
+    if (!IsLetter(s_[pos_])) return Char(pos_++);
+    const char16_t name = Upper(s_[pos_++]);
+    if (IsLetter(At(pos_))) throw EqCodeError("unknown switch");
+    Options o = ReadOptions();
+    std::vector<EqRow> args = Arguments(depth);
+    return Build(name, o, std::move(args));
+  }
+
+  Options ReadOptions() {
+    Options o;
+    for (SkipBlanks(); At(pos_) == u'\\' && IsLetter(At(pos_ + 1)); SkipBlanks()) {
+      ++pos_;
+      std::u16string word;
+      while (IsLetter(At(pos_))) word += Upper(s_[pos_++]);
+      Option(word, o);
+    }
+    return o;
+  }
+
+  long Number() {
+    SkipBlanks();
+    long n = 0;
+    bool any = false;
+    while (IsDigit(At(pos_)) && n < 1000) {
+      n = n * 10 + (s_[pos_++] - u'0');
+      any = true;
+    }
+    return any ? n : -1;
+  }
+
+  char16_t BracketChar() {
+    if (At(pos_) == u'\\') ++pos_;
+    if (AtEnd()) throw EqCodeError("no bracket");
+    return s_[pos_++];
+  }
+
+  void Option(const std::u16string& word, Options& o) {
+    if (word == u"UP" || word == u"AI" || word == u"DI" || word == u"VS" || word == u"HS") {
+      Number();
+    } else if (word == u"DO") {
+      o.down = true;
+      Number();
+    } else if (word == u"CO") {
+      o.columns = Number();
+    } else if (word == u"LC" || word == u"RC" || word == u"BC") {
+      const char16_t b = BracketChar();
+      if (!o.bracketsSet) o.open = o.close = 0;  // one side named: the other is not drawn
+      o.bracketsSet = true;
+      if (word != u"RC") o.open = b;
+      if (word != u"LC") o.close = word == u"BC" ? Mirror(b) : b;
+    } else if (word == u"TO") {
+      o.overline = true;
+    } else if (word == u"BO") {
+      o.underline = true;
+    } else if (word != u"AL" && word != u"AC" && word != u"AR") {
+      throw EqCodeError("unknown option");
+    }
+  }
+
+  std::vector<EqRow> Arguments(int depth) {
+    if (At(pos_) != u'(') throw EqCodeError("switch without arguments");
+    std::vector<EqRow> args;
+    for (;;) {
+      ++pos_;  // "(" or ","
+      args.push_back(Row(depth + 1));
+      if (AtEnd()) throw EqCodeError("unclosed switch");
+      if (s_[pos_] == u')') break;
+    }
+    ++pos_;
+    return args;
+  }
+
+  static EqNode Build(char16_t name, const Options& o, std::vector<EqRow> args) {
+    EqNode n;
+    n.rows = std::move(args);
+    const size_t count = n.rows.size();
+    switch (name) {
+      case u'F':
+        if (count != 2) throw EqCodeError("a fraction has two parts");
+        n.kind = EqKind::kFraction;
+        return n;
+      case u'R':
+        if (count > 2) throw EqCodeError("a radical has one or two parts");
+        if (count == 1) n.rows.insert(n.rows.begin(), EqRow());
+        n.kind = EqKind::kRadical;
+        return n;
+      case u'S':
+        if (count != 1) throw EqCodeError("stacked scripts");
+        n.kind = o.down ? EqKind::kLowered : EqKind::kRaised;
+        return n;
+      case u'O':
+        n.kind = EqKind::kOverstrike;
+        return n;
+      case u'X':
+        if (count != 1 || o.overline == o.underline) throw EqCodeError("a box of other sides");
+        n.kind = o.overline ? EqKind::kOverline : EqKind::kUnderline;
+        return n;
+      case u'B':
+        if (count != 1) throw EqCodeError("brackets hold one part");
+        n.kind = EqKind::kBrackets;
+        n.open = o.open;
+        n.close = o.close;
+        return n;
+      case u'A':
+        if (o.columns > 1) throw EqCodeError("an array of columns");
+        n.kind = EqKind::kArray;
+        return n;
+      default:
+        throw EqCodeError("a switch lumenpad does not convert");
+    }
+  }
+
+  const std::u16string& s_;
+  size_t pos_ = 0;
+};
+
+}  // namespace
+
+EqRow ParseEqCode(const std::u16string& code) {
+  return EqParser(code).Code();
+}
+
+}  // namespace lp

@@ -1,0 +1,46 @@
+#pragma once
+// The code of an EQ field read into a tree: the switches lumenpad and Word
+// write (\F fraction, \R radical, \S script with \UP and \DO, \O overstrike,
+// \X box, \B brackets, \A array) over the characters of the code, each of
+// which remembers where it stood, so that its font can be found again.
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace lp {
+
+struct EqCodeError : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+enum class EqKind {
+  kChar,        // one character of the code
+  kFraction,    // rows: numerator, denominator
+  kRadical,     // rows: index (maybe empty), radicand
+  kRaised,      // rows: the raised text
+  kLowered,     // rows: the lowered text
+  kOverstrike,  // rows: the texts printed over each other
+  kOverline,    // rows: the text under the line
+  kUnderline,   // rows: the text over the line
+  kBrackets,    // rows: the bracketed text; open and close
+  kArray,       // rows: one per element
+};
+
+struct EqNode;
+using EqRow = std::vector<EqNode>;
+
+struct EqNode {
+  EqKind kind = EqKind::kChar;
+  char16_t ch = 0;    // kChar
+  size_t source = 0;  // kChar: its index in the code
+  char16_t open = 0, close = 0;  // kBrackets; 0 draws no bracket
+  std::vector<EqRow> rows;
+};
+
+// The code, "EQ" (any case) first; throws EqCodeError for what it can't read:
+// unbalanced brackets, an unknown switch or option, a switch without its
+// arguments, or a construct nested deeper than any formula needs.
+EqRow ParseEqCode(const std::u16string& code);
+
+}  // namespace lp

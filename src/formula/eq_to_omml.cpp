@@ -1,0 +1,256 @@
+#include "formula/eq_to_omml.h"
+
+#include <algorithm>
+#include <cstdio>
+
+#include "formula/eq_code.h"
+#include "formula/omml_writer.h"
+
+namespace lp {
+namespace {
+
+using omml::Xml;
+
+// The Symbol font's characters from U+0020 to U+00FF; \0 where it draws a
+// piece of a larger sign rather than a character of its own.
+constexpr char16_t kSymbolFont[] =
+    u" !∀#∃%&∋()∗+,−./0123456789:;<=>?≅ΑΒΧΔΕΦΓΗΙϑΚΛΜΝΟΠΘΡΣΤΥςΩΞΨΖ[∴]⊥_\0"
+    u"αβχδεφγηιϕκλμνοπθρστυϖωξψζ{|}∼\0"
+    u"\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"
+    u"ϒ′≤⁄∞ƒ♣♦♥♠↔←↑→↓°±″≥×∝∂•÷≠≡≈…\0\0↵"
+    u"ℵℑℜ℘⊗⊕∅∩∪⊃⊇⊄⊂⊆∈∉∠∇®©™∏√⋅¬∧∨⇔⇐⇑⇒⇓◊〈®©™∑\0\0\0\0\0\0\0\0\0\0\0〉∫"
+    u"\0\0\0\0\0\0\0\0\0\0\0\0\0";
+static_assert(sizeof(kSymbolFont) / sizeof(char16_t) == 0xE0 + 1);
+
+bool Named(const std::u16string& font, const std::u16string& name) {
+  if (font.size() != name.size()) return false;
+  for (size_t i = 0; i < font.size(); ++i) {
+    char16_t a = font[i] >= u'A' && font[i] <= u'Z' ? font[i] - u'A' + u'a' : font[i];
+    if (a != name[i]) return false;
+  }
+  return true;
+}
+
+bool IsLetter(char16_t c) {
+  return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'Α' && c <= u'ω') ||
+         c == u'ϑ' || c == u'ϕ' || c == u'ϖ' || c == u'ϒ';
+}
+
+// The signs the font pass widened, and the hyphen, as math writes them.
+char16_t MathSign(char16_t c) {
+  switch (c) {
+    case u'＋':
+      return u'+';
+    case u'－':
+    case u'-':
+      return u'−';
+    case u'＝':
+      return u'=';
+    case u'＞':
+      return u'>';
+    case u'＜':
+      return u'<';
+    default:
+      return 0;
+  }
+}
+
+std::string Style(const word::CodeCharacter& c, char16_t shown) {
+  if (!IsLetter(shown)) return c.bold ? "b" : "";
+  return c.bold ? (c.italic ? "bi" : "b") : (c.italic ? "i" : "p");
+}
+
+class OmmlBuilder {
+ public:
+  explicit OmmlBuilder(const std::vector<word::CodeCharacter>& code) : code_(code) {
+    for (const auto& c : code) mainSize_ = std::max(mainSize_, c.size);
+  }
+
+  Xml Row(const EqRow& row) {
+    std::vector<Item> items;
+    for (size_t i = 0; i < row.size(); ++i) {
+      const EqNode& n = row[i];
+      if (IsScript(n)) {
+        const bool pair = i + 1 < row.size() && IsScript(row[i + 1]) && row[i + 1].kind != n.kind;
+        items.push_back({ScriptsOn(items, n, pair ? &row[++i] : nullptr)});
+      } else if (n.kind == EqKind::kOverstrike) {
+        items.push_back({Overstrike(items, n)});
+      } else {
+        items.push_back({Node(n), n.kind == EqKind::kChar ? n.ch : char16_t(0)});
+      }
+    }
+    Xml out;
+    for (const Item& item : items) out += item.xml;
+    return out;
+  }
+
+ private:
+  struct Item {
+    Xml xml;
+    char16_t ch = 0;  // the character of a character's run
+  };
+
+  static bool IsScript(const EqNode& n) {
+    return n.kind == EqKind::kRaised || n.kind == EqKind::kLowered;
+  }
+
+  // What a script stands on: the item before it, or the whole bracket the
+  // item closes.
+  static Xml TakeBase(std::vector<Item>& items) {
+    if (items.empty()) return {};
+    size_t first = items.size() - 1;
+    if (items[first].ch == u')') {
+      for (int depth = 0; first-- > 0;) {
+        if (items[first].ch == u')') ++depth;
+        if (items[first].ch == u'(' && depth-- == 0) break;
+      }
+      if (first == static_cast<size_t>(-1)) first = items.size() - 1;
+    }
+    Xml base;
+    for (size_t i = first; i < items.size(); ++i) base += items[i].xml;
+    items.resize(first);
+    return base;
+  }
+
+  Xml ScriptsOn(std::vector<Item>& items, const EqNode& a, const EqNode* b) {
+    Xml sub, sup;
+    bool hasSub = false, hasSup = false;
+    for (const EqNode* s : {&a, b}) {
+      if (!s) continue;
+      const bool down = s->kind == EqKind::kLowered;
+      (down ? sub : sup) = Row(s->rows[0]);
+      (down ? hasSub : hasSup) = true;
+    }
+    return omml::Scripts(TakeBase(items), sub, sup, hasSub, hasSup);
+  }
+
+  // The one sign a raised part of an overstrike holds, or 0.
+  static char16_t RaisedSign(const EqRow& row) {
+    if (row.size() != 1 || row[0].kind != EqKind::kRaised || row[0].rows[0].size() != 1) return 0;
+    const EqNode& sign = row[0].rows[0][0];
+    return sign.kind == EqKind::kChar ? sign.ch : 0;
+  }
+
+  // \O of a raised and a lowered script: both on the character before; \O
+  // of a raised sign and a text: the sign as an accent of the text.
+  Xml Overstrike(std::vector<Item>& items, const EqNode& n) {
+    if (n.rows.size() != 2) throw EqCodeError("overstrike of other than two parts");
+    const EqRow &a = n.rows[0], &b = n.rows[1];
+    if (a.size() == 1 && b.size() == 1 && IsScript(a[0]) && IsScript(b[0]) &&
+        a[0].kind != b[0].kind)
+      return ScriptsOn(items, a[0], &b[0]);
+    const bool signFirst = RaisedSign(a) != 0;
+    const char16_t sign = signFirst ? RaisedSign(a) : RaisedSign(b);
+    const Xml base = Row(signFirst ? b : a);
+    switch (sign) {
+      case u'⌒':
+        return omml::Accent(u"\u2322", base);
+      case u'→':
+        return omml::Accent(u"\u20D7", base);
+      case u'˙':
+      case u'·':
+      case u'.':
+        return omml::Accent(u"\u0307", base);
+      case u'-':
+      case u'－':
+      case u'¯':
+      case u'‾':
+      case u'−':
+        return omml::Bar(base);
+      default:
+        throw EqCodeError("overstrike lumenpad does not convert");
+    }
+  }
+
+  Xml Node(const EqNode& n) {
+    switch (n.kind) {
+      case EqKind::kChar:
+        return Char(n);
+      case EqKind::kFraction:
+        return omml::Fraction(Row(n.rows[0]), Row(n.rows[1]));
+      case EqKind::kRadical:
+        return omml::Radical(Degree(n.rows[0]), Row(n.rows[1]));
+      case EqKind::kOverline:
+      case EqKind::kUnderline:
+        return omml::Bar(Row(n.rows[0]), n.kind == EqKind::kOverline);
+      case EqKind::kBrackets:
+        return omml::Delimited(Side(n.open), Side(n.close), Row(n.rows[0]));
+      case EqKind::kArray: {
+        std::vector<Xml> rows;
+        for (const EqRow& r : n.rows) rows.push_back(Row(r));
+        return omml::EquationArray(rows);
+      }
+      default:  // scripts and overstrikes are read by Row
+        throw EqCodeError("script outside a row");
+    }
+  }
+
+  static std::u16string Side(char16_t bracket) {
+    return bracket ? std::u16string(1, bracket) : std::u16string();
+  }
+
+  // The index of a radical is written as a lowered script: its text.
+  Xml Degree(const EqRow& row) {
+    if (row.size() == 1 && IsScript(row[0])) return Row(row[0].rows[0]);
+    return Row(row);
+  }
+
+  Xml Char(const EqNode& n) {
+    word::CodeCharacter c =
+        n.source < code_.size() ? code_[n.source] : word::CodeCharacter{n.ch, {}, false, false, 0};
+    char16_t shown = c.ch;
+    std::u16string font = c.font;
+    if (Named(font, u"symbol")) {
+      shown = SymbolFontCharacter(c.ch);
+      font.clear();
+    } else if (c.ch == 0xF06D && Named(font, u"euclid extra")) {
+      shown = u'∓';
+      font.clear();
+    } else if (char16_t sign = MathSign(c.ch)) {
+      shown = sign;
+      font.clear();
+    } else if (c.ch >= 0xE000 && c.ch <= 0xF8FF) {
+      shown = 0;  // a private character of a font this converter does not know
+    }
+    if (shown == 0) throw EqCodeError("a character of a symbol font");
+    return omml::Run(std::u16string(1, shown), Style(c, shown), WordProps(font));
+  }
+
+  std::string WordProps(const std::u16string& font) const {
+    std::string props;
+    if (!font.empty()) {
+      const Xml name = omml::Escape(font);
+      props += "<w:rFonts w:ascii=\"" + name + "\" w:hAnsi=\"" + name + "\"/>";
+    }
+    if (mainSize_ > 0) {
+      char size[32];
+      std::snprintf(size, sizeof size, "%d", static_cast<int>(mainSize_ * 2 + 0.5f));
+      props += std::string("<w:sz w:val=\"") + size + "\"/>";
+    }
+    return props;
+  }
+
+  const std::vector<word::CodeCharacter>& code_;
+  float mainSize_ = 0;  // the formula's own size: its scripts were shrunk from it
+};
+
+}  // namespace
+
+char16_t SymbolFontCharacter(char16_t ch) {
+  if (ch >= 0xF020 && ch <= 0xF0FF) ch = static_cast<char16_t>(ch - 0xF000);
+  return ch >= 0x20 && ch <= 0xFF ? kSymbolFont[ch - 0x20] : 0;
+}
+
+std::optional<std::string> EqFieldToOmml(const std::vector<word::CodeCharacter>& code) {
+  std::u16string text;
+  for (const auto& c : code) text += c.ch;
+  try {
+    EqRow row = ParseEqCode(text);
+    if (row.empty()) return std::nullopt;
+    return omml::Math(OmmlBuilder(code).Row(row));
+  } catch (const EqCodeError&) {
+    return std::nullopt;
+  }
+}
+
+}  // namespace lp

@@ -1,0 +1,84 @@
+#include "formula/omml_writer.h"
+
+#include "runtime/utf8.h"
+
+namespace lp::omml {
+
+Xml Escape(const std::u16string& text) {
+  Xml out;
+  for (char c : ToUtf8(text)) {
+    if (c == '&')
+      out += "&amp;";
+    else if (c == '<')
+      out += "&lt;";
+    else if (c == '>')
+      out += "&gt;";
+    else if (c == '"')
+      out += "&quot;";
+    else
+      out += c;
+  }
+  return out;
+}
+
+Xml Run(const std::u16string& text, const std::string& style, const std::string& wordProps) {
+  Xml props = style.empty() ? "" : "<m:rPr><m:sty m:val=\"" + style + "\"/></m:rPr>";
+  if (!wordProps.empty()) props += "<w:rPr>" + wordProps + "</w:rPr>";
+  return "<m:r>" + props + "<m:t xml:space=\"preserve\">" + Escape(text) + "</m:t></m:r>";
+}
+
+Xml Join(const std::vector<Xml>& items) {
+  Xml out;
+  for (const Xml& item : items) out += item;
+  return out;
+}
+
+Xml Wrap(const char* tag, const Xml& inner) {
+  return "<m:" + Xml(tag) + ">" + inner + "</m:" + Xml(tag) + ">";
+}
+
+Xml Fraction(const Xml& numerator, const Xml& denominator) {
+  return Wrap("f", Wrap("num", numerator) + Wrap("den", denominator));
+}
+
+Xml Radical(const Xml& degree, const Xml& radicand) {
+  if (degree.empty())
+    return Wrap("rad", "<m:radPr><m:degHide m:val=\"1\"/></m:radPr><m:deg/>" + Wrap("e", radicand));
+  return Wrap("rad", Wrap("deg", degree) + Wrap("e", radicand));
+}
+
+Xml Scripts(const Xml& base, const Xml& sub, const Xml& sup, bool hasSub, bool hasSup) {
+  Xml e = Wrap("e", base);
+  if (hasSub && hasSup) return Wrap("sSubSup", e + Wrap("sub", sub) + Wrap("sup", sup));
+  if (hasSup) return Wrap("sSup", e + Wrap("sup", sup));
+  if (hasSub) return Wrap("sSub", e + Wrap("sub", sub));
+  return base;
+}
+
+Xml Bar(const Xml& base, bool top) {
+  return Wrap("bar", std::string("<m:barPr><m:pos m:val=\"") + (top ? "top" : "bot") +
+                         "\"/></m:barPr>" + Wrap("e", base));
+}
+
+Xml Accent(const std::u16string& character, const Xml& base) {
+  return Wrap("acc", "<m:accPr><m:chr m:val=\"" + Escape(character) + "\"/></m:accPr>" +
+                         Wrap("e", base));
+}
+
+Xml Delimited(const std::u16string& open, const std::u16string& close, const Xml& content) {
+  Xml props = "<m:dPr><m:begChr m:val=\"" + Escape(open) + "\"/><m:endChr m:val=\"" +
+              Escape(close) + "\"/></m:dPr>";
+  return Wrap("d", props + Wrap("e", content));
+}
+
+Xml EquationArray(const std::vector<Xml>& rows) {
+  Xml inner;
+  for (const Xml& row : rows) inner += Wrap("e", row);
+  return Wrap("eqArr", inner);
+}
+
+Xml Math(const Xml& body) {
+  return Wrap("oMath", body);
+}
+
+}  // namespace lp::omml

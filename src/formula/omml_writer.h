@@ -1,0 +1,37 @@
+#pragma once
+// The pieces of an Office Math equation as UTF-8 text, for the converters
+// that write equations (TeX, EQ field codes): runs, fractions, radicals,
+// scripts, bars, accents, delimiters and equation arrays. The m prefix is
+// the document's math namespace, w the WordprocessingML one.
+
+#include <string>
+#include <vector>
+
+namespace lp::omml {
+
+using Xml = std::string;
+
+// Text with &, < and > escaped.
+Xml Escape(const std::u16string& text);
+// A run of math text; `style` is m:sty ("p" upright, "i", "b", "bi") or
+// empty for the math default, `wordProps` the inside of a w:rPr or empty.
+Xml Run(const std::u16string& text, const std::string& style = {},
+        const std::string& wordProps = {});
+Xml Join(const std::vector<Xml>& items);
+Xml Wrap(const char* tag, const Xml& inner);
+
+Xml Fraction(const Xml& numerator, const Xml& denominator);
+// Without a degree the radical is a square root with its degree hidden.
+Xml Radical(const Xml& degree, const Xml& radicand);
+// Scripts on a base; an empty script is left out.
+Xml Scripts(const Xml& base, const Xml& sub, const Xml& sup, bool hasSub, bool hasSup);
+// A bar over the base, or under it.
+Xml Bar(const Xml& base, bool top = true);
+// An accent character over the base: U+20D7 (vector arrow), U+0307 (dot)...
+Xml Accent(const std::u16string& character, const Xml& base);
+// Delimiters around the content; an empty one is not drawn.
+Xml Delimited(const std::u16string& open, const std::u16string& close, const Xml& content);
+Xml EquationArray(const std::vector<Xml>& rows);
+Xml Math(const Xml& body);
+
+}  // namespace lp::omml
