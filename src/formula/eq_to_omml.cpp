@@ -68,6 +68,7 @@ class OmmlBuilder {
 
   Xml Row(const EqRow& row) {
     std::vector<Item> items;
+    size_t openBar = kNone;
     for (size_t i = 0; i < row.size(); ++i) {
       const EqNode& n = row[i];
       if (IsScript(n)) {
@@ -75,13 +76,16 @@ class OmmlBuilder {
         items.push_back({ScriptsOn(items, n, pair ? &row[++i] : nullptr)});
       } else if (n.kind == EqKind::kOverstrike) {
         items.push_back({Overstrike(items, n)});
+      } else if (n.kind == EqKind::kChar && n.ch == u'|' && openBar != kNone) {
+        items[openBar] = {omml::Delimited(u"|", u"|", Join(items, openBar + 1))};
+        items.resize(openBar + 1);
+        openBar = kNone;
       } else {
+        if (n.kind == EqKind::kChar && n.ch == u'|') openBar = items.size();
         items.push_back({Node(n), n.kind == EqKind::kChar ? n.ch : char16_t(0)});
       }
     }
-    Xml out;
-    for (const Item& item : items) out += item.xml;
-    return out;
+    return Join(items, 0);
   }
 
  private:
@@ -89,6 +93,13 @@ class OmmlBuilder {
     Xml xml;
     char16_t ch = 0;  // the character of a character's run
   };
+  static constexpr size_t kNone = static_cast<size_t>(-1);
+
+  static Xml Join(const std::vector<Item>& items, size_t from) {
+    Xml out;
+    for (size_t i = from; i < items.size(); ++i) out += items[i].xml;
+    return out;
+  }
 
   static bool IsScript(const EqNode& n) {
     return n.kind == EqKind::kRaised || n.kind == EqKind::kLowered;
@@ -106,8 +117,7 @@ class OmmlBuilder {
       }
       if (first == static_cast<size_t>(-1)) first = items.size() - 1;
     }
-    Xml base;
-    for (size_t i = first; i < items.size(); ++i) base += items[i].xml;
+    Xml base = Join(items, first);
     items.resize(first);
     return base;
   }
@@ -144,7 +154,7 @@ class OmmlBuilder {
     const Xml base = Row(signFirst ? b : a);
     switch (sign) {
       case u'⌒':
-        return omml::Accent(u"\u2322", base);
+        return omml::GroupCharacter(u"\u23DC", base);
       case u'→':
         return omml::Accent(u"\u20D7", base);
       case u'˙':

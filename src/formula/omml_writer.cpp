@@ -65,6 +65,12 @@ Xml Accent(const std::u16string& character, const Xml& base) {
                          Wrap("e", base));
 }
 
+Xml GroupCharacter(const std::u16string& character, const Xml& base) {
+  return Wrap("groupChr", "<m:groupChrPr><m:chr m:val=\"" + Escape(character) +
+                              "\"/><m:pos m:val=\"top\"/><m:vertJc m:val=\"bot\"/></m:groupChrPr>" +
+                              Wrap("e", base));
+}
+
 Xml Delimited(const std::u16string& open, const std::u16string& close, const Xml& content) {
   Xml props = "<m:dPr><m:begChr m:val=\"" + Escape(open) + "\"/><m:endChr m:val=\"" +
               Escape(close) + "\"/></m:dPr>";

@@ -29,6 +29,8 @@ Xml Scripts(const Xml& base, const Xml& sub, const Xml& sup, bool hasSub, bool h
 Xml Bar(const Xml& base, bool top = true);
 // An accent character over the base: U+20D7 (vector arrow), U+0307 (dot)...
 Xml Accent(const std::u16string& character, const Xml& base);
+// A character stretched over the base: U+23DC (the arc over a chord).
+Xml GroupCharacter(const std::u16string& character, const Xml& base);
 // Delimiters around the content; an empty one is not drawn.
 Xml Delimited(const std::u16string& open, const std::u16string& close, const Xml& content);
 Xml EquationArray(const std::vector<Xml>& rows);

@@ -3,14 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
 #include "formula/commands.h"
+#include "formula/eq_to_omml.h"
 #include "formula/insert.h"
 #include "formula/latex_to_omml.h"
 #include "runtime/recording_prompt.h"
+#include "runtime/utf8.h"
 #include "word/docx/docx_application.h"
 #include "word/docx/package.h"
 
@@ -122,6 +125,49 @@ TEST_F(DocxGs, BracesBecomeNestedFieldsWithSymbolLetters) {
   ASSERT_EQ(fields.Count(), 2);
   EXPECT_EQ(fields.Item(1)->Code()->Text(), u"EQ \\F(1,\x13 SYMBOL 112 \\f \"symbol\"\x15)");
   EXPECT_EQ(fields.Item(2)->Code()->Text(), u" SYMBOL 112 \\f \"symbol\"");
+}
+
+// Every field gs writes for the worked examples and textbook formulas, a
+// label with a nested SYMBOL field and the codes of the other tools becomes
+// an equation in its place, the text around it kept; the document validates.
+TEST_F(DocxGs, EqFieldsBecomeEquationsInTheirPlace) {
+  std::ifstream corpus(LP_FORMULA_CORPUS);
+  int written = 0;
+  std::string line;
+  for (int i = 0; i < 70 && std::getline(corpus, line); ++i) {
+    app->Selection().TypeText(u"题" + FromUtf8(std::to_string(i)) + u"：");
+    Gs(FromUtf8(line));
+    app->Selection().MoveRight(word::wdCharacter, 1);
+    app->Selection().TypeText(u"。");
+    app->Selection().TypeParagraph();
+    ++written;
+  }
+  for (const char16_t* code : {u"EQ \\o(\\s\\up 3(˙),3)", u"EQ \\o \\ac(\\S\\UP7(→),AB)"}) {
+    InsertEqField(*session, code);
+    app->Selection().MoveRight(word::wdCharacter, 1);
+    app->Selection().TypeParagraph();
+    ++written;
+  }
+  long start = app->Selection().Range()->Start();
+  app->Selection().TypeText(u"x{EQ \\F(1,@p)}y");
+  ExpandSymbolFields(*session, *app->ActiveDocument().Range(start + 1, start + 14));
+  ++written;
+
+  word::EqConversion done = app->ActiveDocument().ConvertEqFields(EqFieldToOmml);
+  EXPECT_EQ(done.converted, written);
+  EXPECT_TRUE(done.unconverted.empty()) << ToUtf8(done.unconverted.front());
+  app->ActiveDocument().Save();
+  const std::string xml = *word::docx::Package::FromBytes(ReadBytes(path)).Read("word/document.xml");
+  EXPECT_EQ(xml.find("fldChar"), std::string::npos);
+  EXPECT_NE(xml.find("<w:t>题0：</w:t></w:r><m:oMath>"), std::string::npos);
+  EXPECT_NE(xml.find("</m:oMath><w:r><w:t>。</w:t>"), std::string::npos);
+  EXPECT_NE(xml.find("π</m:t>"), std::string::npos);
+  if (std::getenv("LP_KEEP_EQ_DOCX")) std::filesystem::copy_file(path, std::getenv("LP_KEEP_EQ_DOCX"),
+                                                                   std::filesystem::copy_options::overwrite_existing);
+  const char* validate = LP_SHARED_DIR "/corpus/tools/validate_docx.sh";
+  if (!std::filesystem::exists(validate) || std::system("xmllint --version >/dev/null 2>&1") != 0)
+    GTEST_SKIP() << "no schemas or xmllint";
+  EXPECT_EQ(std::system((std::string(validate) + " " + path.string() + " >/dev/null 2>&1").c_str()), 0);
 }
 
 }  // namespace
