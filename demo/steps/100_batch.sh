@@ -2,7 +2,8 @@
 # The batch runner over a folder of collected copies of the finished
 # worksheet, headless as a script would run it: tab 0 takes out the other
 # school's header, footer, blank lines, link and author; tab 1 puts this
-# school's name in the file names, the properties and the text. The first
+# school's name in the file names, the properties and the text, and turns
+# the EQ fields, which LibreOffice does not show, into native equations. The first
 # copy before and after, side by side, becomes one page appended to the
 # worksheet's PDF (pages/batch.pdf).
 set -euo pipefail
@@ -21,7 +22,7 @@ bat --set chkBack=1 --set chkBlankLine=1 --answer yes --set chkPageHeader=1 --se
   --set chkFileInfo=1 --set "txtFileInfo=张老师" --click cmdOK
 bat --set SSTab1=1 --set txtFile_Change_0=_XX中学 --set txtFile_Change_1=_流明中学 \
   --set "txtFile_Change_2=XX 中学" --set txtFile_Change_3=流明中学 \
-  --set "txtFile_Change_4=XX 中学" --set txtFile_Change_5=流明中学 --click cmdOK
+  --set "txtFile_Change_4=XX 中学" --set txtFile_Change_5=流明中学 --set chkEqToOmml=1 --click cmdOK
 ls "$work/after"
 command -v soffice >/dev/null && command -v pdftoppm >/dev/null || exit 0
 for side in before after; do

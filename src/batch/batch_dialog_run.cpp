@@ -22,7 +22,8 @@ BatchReport OnActiveDocument(word::Application& app, const BatchChoice& choice) 
   }
   app.SetScreenUpdating(true);
   BatchSummary s;
-  if (!left.empty()) s.withLeftFields.push_back({PathOf(doc.FullName()), FileResult::kDone, {}, {}, left});
+  if (!left.empty())
+    s.withLeftFields.push_back({PathOf(doc.FullName()), FileResult::kDone, {}, {}, left});
   return {u"批处理任务已经完成，请检查！", LeftFieldsLine(s)};
 }
 

@@ -19,8 +19,8 @@ enum class FileResult { kDone, kConverted, kSkipped, kFailed };
 struct FileOutcome {
   std::filesystem::path file;
   FileResult result = FileResult::kDone;
-  std::u16string why;          // for a skipped or failed file
-  std::filesystem::path made;  // the .docx converted from an old file
+  std::u16string why;                      // for a skipped or failed file
+  std::filesystem::path made;              // the .docx converted from an old file
   std::vector<std::u16string> leftFields;  // codes of the EQ fields left unconverted
 };
 

@@ -32,8 +32,8 @@ using EqRow = std::vector<EqNode>;
 
 struct EqNode {
   EqKind kind = EqKind::kChar;
-  char16_t ch = 0;    // kChar
-  size_t source = 0;  // kChar: its index in the code
+  char16_t ch = 0;               // kChar
+  size_t source = 0;             // kChar: its index in the code
   char16_t open = 0, close = 0;  // kBrackets; 0 draws no bracket
   std::vector<EqRow> rows;
 };

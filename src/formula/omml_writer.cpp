@@ -61,8 +61,8 @@ Xml Bar(const Xml& base, bool top) {
 }
 
 Xml Accent(const std::u16string& character, const Xml& base) {
-  return Wrap("acc", "<m:accPr><m:chr m:val=\"" + Escape(character) + "\"/></m:accPr>" +
-                         Wrap("e", base));
+  return Wrap("acc",
+              "<m:accPr><m:chr m:val=\"" + Escape(character) + "\"/></m:accPr>" + Wrap("e", base));
 }
 
 Xml GroupCharacter(const std::u16string& character, const Xml& base) {

@@ -10,9 +10,11 @@
 #include <gtest/gtest.h>
 
 #include "batch/batch_choice.h"
+#include "batch/batch_run.h"
 #include "batch/document_operations.h"
 #include "batch/file_walk.h"
 #include "word/docx/batch_edits.h"
+#include "word/docx/docx_application.h"
 #include "word/fake/fake_word.h"
 
 namespace lp::batch {
@@ -113,11 +115,32 @@ TEST(DocumentOperations, OrderOfEachTab) {
   std::vector<std::string> calls;
   for (const std::string& line : fake.Calls())
     if (line.find("BuiltIn") == std::string::npos) calls.push_back(line.substr(line.find('.') + 1));
-  EXPECT_EQ(calls, (std::vector<std::string>{"DeleteBlankParagraphs()", "DeleteHeadersFooters()",
-                                             "DeleteShapeHyperlinks()", "DeleteTextHyperlinks()",
-                                             "ConvertEqFields()", "AlignFormulas(True)",
-                                             "ReplaceAllText(\"旧\",\"新\")",
-                                             "ScaleFormulas(0.75)", "ScalePictures(0.8)"}));
+  EXPECT_EQ(calls,
+            (std::vector<std::string>{
+                "DeleteBlankParagraphs()", "DeleteHeadersFooters()", "DeleteShapeHyperlinks()",
+                "DeleteTextHyperlinks()", "ConvertEqFields()", "AlignFormulas(True)",
+                "ReplaceAllText(\"旧\",\"新\")", "ScaleFormulas(0.75)", "ScalePictures(0.8)"}));
+}
+
+// Word's own EQ fields: those of the constructs lumenpad writes become
+// equations, the others (integrals, lists, displacements, arrays of
+// columns) stay and are named after the closing caption.
+TEST(DocumentOperations, EqFieldsLeftAsTheyWereAreListed) {
+  const fs::path source = LP_CORPUS_DIR "/eq/aspose-generated-Field sample - EQ.docx";
+  if (!fs::exists(source)) GTEST_SKIP() << "shared test material missing";
+  TempFolder t;
+  fs::copy_file(source, t.path / "eq.docx");
+  auto app = word::docx::OpenDocx(t.path / "eq.docx");
+  BatchChoice c;
+  c.tab = 1;
+  c.eqToOmml = true;
+  const std::vector<std::u16string> left = RunOperations(app->ActiveDocument(), c);
+  ASSERT_EQ(left.size(), 8u);
+  EXPECT_EQ(left[0], u"EQ \\a \\al \\co2 \\vs3 \\hs3(4x,- 4y,-4x,+ y)");
+  BatchSummary s;
+  s.withLeftFields.push_back({t.path / "eq.docx", FileResult::kDone, {}, {}, left});
+  EXPECT_EQ(LeftFieldsLine(s).rfind(u"未能转为Word公式的EQ域8个：eq.docx（EQ \\a \\al", 0), 0u);
+  EXPECT_EQ(LeftFieldsLine(BatchSummary()), u"");
 }
 
 pugi::xml_document Parse(const char* body) {

@@ -37,8 +37,10 @@ Work WorkFor(const std::string& op, const std::vector<std::u16string>& a) {
     return Plain([a](word::Document& d) { ChangeFileInfo(d, a.at(0), a.at(1)); });
   if (op == "replace")
     return Plain([a](word::Document& d) { ChangeFileContent(d, a.at(0), a.at(1)); });
-  if (op == "formulas") return Plain([a](word::Document& d) { ScaleFormulas(d, lp::Val(a.at(0))); });
-  if (op == "pictures") return Plain([a](word::Document& d) { ScalePictures(d, lp::Val(a.at(0))); });
+  if (op == "formulas")
+    return Plain([a](word::Document& d) { ScaleFormulas(d, lp::Val(a.at(0))); });
+  if (op == "pictures")
+    return Plain([a](word::Document& d) { ScalePictures(d, lp::Val(a.at(0))); });
   if (op == "align") return Plain([](word::Document& d) { AlignFormulas(d, true); });
   if (op == "eq") return EqFieldsToEquations;
   if (op == "tab0" || op == "backup") {

@@ -157,17 +157,20 @@ TEST_F(DocxGs, EqFieldsBecomeEquationsInTheirPlace) {
   EXPECT_EQ(done.converted, written);
   EXPECT_TRUE(done.unconverted.empty()) << ToUtf8(done.unconverted.front());
   app->ActiveDocument().Save();
-  const std::string xml = *word::docx::Package::FromBytes(ReadBytes(path)).Read("word/document.xml");
+  const std::string xml =
+      *word::docx::Package::FromBytes(ReadBytes(path)).Read("word/document.xml");
   EXPECT_EQ(xml.find("fldChar"), std::string::npos);
   EXPECT_NE(xml.find("<w:t>题0：</w:t></w:r><m:oMath>"), std::string::npos);
   EXPECT_NE(xml.find("</m:oMath><w:r><w:t>。</w:t>"), std::string::npos);
   EXPECT_NE(xml.find("π</m:t>"), std::string::npos);
-  if (std::getenv("LP_KEEP_EQ_DOCX")) std::filesystem::copy_file(path, std::getenv("LP_KEEP_EQ_DOCX"),
-                                                                   std::filesystem::copy_options::overwrite_existing);
+  if (std::getenv("LP_KEEP_EQ_DOCX"))
+    std::filesystem::copy_file(path, std::getenv("LP_KEEP_EQ_DOCX"),
+                               std::filesystem::copy_options::overwrite_existing);
   const char* validate = LP_SHARED_DIR "/corpus/tools/validate_docx.sh";
   if (!std::filesystem::exists(validate) || std::system("xmllint --version >/dev/null 2>&1") != 0)
     GTEST_SKIP() << "no schemas or xmllint";
-  EXPECT_EQ(std::system((std::string(validate) + " " + path.string() + " >/dev/null 2>&1").c_str()), 0);
+  EXPECT_EQ(std::system((std::string(validate) + " " + path.string() + " >/dev/null 2>&1").c_str()),
+            0);
 }
 
 }  // namespace

@@ -56,13 +56,19 @@ TEST(EqToOmml, EveryConstructLumenpadWrites) {
       {"RootOfOneCharacter", u"EQ \\r(2)", {"<m:rad><m:radPr><m:degHide"}},
       {"RootWithIndex", u"EQ \\R(\\S\\DO(3),x)＋1", {"<m:rad><m:deg><m:r>", ">3</m:t>"}},
       {"Power", u"EQ x\\S\\UP6(n＋1)", {"<m:sSup><m:e><m:r>", ">x</m:t>", "<m:sup>"}},
-      {"PowerOfBracket", u"EQ (a＋b)\\S(2)", {"<m:sSup><m:e><m:r>", ">(</m:t>", ">)</m:t></m:r></m:e>"}},
+      {"PowerOfBracket",
+       u"EQ (a＋b)\\S(2)",
+       {"<m:sSup><m:e><m:r>", ">(</m:t>", ">)</m:t></m:r></m:e>"}},
       {"Index", u"EQ a\\S\\DO(12)", {"<m:sSub><m:e>", "<m:sub>"}},
       {"IndexAndPower", u"EQ x\\S\\DO(1)\\S(2)", {"<m:sSubSup><m:e>"}},
       {"Arrangement", u"EQ A\\o(\\S\\UP5(5),\\S\\DO3(3))", {"<m:sSubSup><m:e><m:r>", ">A</m:t>"}},
       {"ArrangementTyped", u"eq \\o(\\s\\up 5(m),\\s\\do 3(n))", {"<m:sSubSup>"}},
-      {"Arc", u"EQ \\o\\ac(\\S\\UP7(⌒),AB)", {"<m:groupChr><m:groupChrPr><m:chr m:val=\"\u23DC\"/>"}},
-      {"AbsoluteValue", u"EQ \\R(a\\S(2))＝|a|", {"<m:begChr m:val=\"|\"/><m:endChr m:val=\"|\"/>"}},
+      {"Arc",
+       u"EQ \\o\\ac(\\S\\UP7(⌒),AB)",
+       {"<m:groupChr><m:groupChrPr><m:chr m:val=\"\u23DC\"/>"}},
+      {"AbsoluteValue",
+       u"EQ \\R(a\\S(2))＝|a|",
+       {"<m:begChr m:val=\"|\"/><m:endChr m:val=\"|\"/>"}},
       {"Vector", u"EQ \\o \\ac(\\S\\UP7(→),AB)", {"<m:chr m:val=\"\u20D7\"/>"}},
       {"BarOfLetter", u"EQ \\o\\ac(\\S\\UP7(－),a)", {"<m:bar><m:barPr><m:pos m:val=\"top\"/>"}},
       {"BarOfGroup", u"EQ \\x\\to(ab)", {"<m:bar><m:barPr><m:pos m:val=\"top\"/>"}},
@@ -73,8 +79,10 @@ TEST(EqToOmml, EveryConstructLumenpadWrites) {
         "</m:e><m:e>"}},
       {"BothBrackets", u"EQ \\b\\bc\\[(x)", {"<m:begChr m:val=\"[\"/><m:endChr m:val=\"]\"/>"}},
       {"EscapedComma", u"EQ \\F(1\\,5,2)", {">,</m:t>"}},
-      {"Looks", u"EQ x1", {"<m:sty m:val=\"i\"/></m:rPr><w:rPr><w:rFonts w:ascii=\"Times New Roman\"",
-                           "<w:sz w:val=\"21\"/>"}},
+      {"Looks",
+       u"EQ x1",
+       {"<m:sty m:val=\"i\"/></m:rPr><w:rPr><w:rFonts w:ascii=\"Times New Roman\"",
+        "<w:sz w:val=\"21\"/>"}},
   };
   for (const Row& row : rows) {
     const std::string omml = Convert(row.code);
@@ -89,9 +97,11 @@ TEST(EqToOmml, SymbolFontCharactersBecomeUnicode) {
   code[3] = {u'a', u"Symbol", true, false, 0};
   code[4] = {0xF070, u"SYMBOL", false, false, 0};
   const std::string omml = EqFieldToOmml(code).value_or("");
-  EXPECT_NE(omml.find("<m:sty m:val=\"i\"/></m:rPr><m:t xml:space=\"preserve\">α"), std::string::npos)
+  EXPECT_NE(omml.find("<m:sty m:val=\"i\"/></m:rPr><m:t xml:space=\"preserve\">α"),
+            std::string::npos)
       << omml;
-  EXPECT_NE(omml.find("<m:sty m:val=\"p\"/></m:rPr><m:t xml:space=\"preserve\">π"), std::string::npos)
+  EXPECT_NE(omml.find("<m:sty m:val=\"p\"/></m:rPr><m:t xml:space=\"preserve\">π"),
+            std::string::npos)
       << omml;
   EXPECT_EQ(SymbolFontCharacter(u'W'), u'Ω');
   EXPECT_EQ(SymbolFontCharacter(0xF0B3), u'≥');
@@ -100,9 +110,20 @@ TEST(EqToOmml, SymbolFontCharactersBecomeUnicode) {
 
 TEST(EqToOmml, WhatItCannotConvertIsRefused) {
   const char16_t* refused[] = {
-      u"",          u"EQ",           u"SYMBOL 97",     u"EQ \\F(a)",        u"EQ \\F(a,b",
-      u"EQ \\d\\fo10()", u"EQ \\i\\su(1,n,k)", u"EQ \\s\\up5(a,b)", u"EQ \\x(a)", u"EQ \\a\\co2(1,2)",
-      u"EQ \\o\\ac(○,印)", u"EQ \\Fx(a,b)", u"EQ \\F\\zz(a,b)", u"EQ a\\",
+      u"",
+      u"EQ",
+      u"SYMBOL 97",
+      u"EQ \\F(a)",
+      u"EQ \\F(a,b",
+      u"EQ \\d\\fo10()",
+      u"EQ \\i\\su(1,n,k)",
+      u"EQ \\s\\up5(a,b)",
+      u"EQ \\x(a)",
+      u"EQ \\a\\co2(1,2)",
+      u"EQ \\o\\ac(○,印)",
+      u"EQ \\Fx(a,b)",
+      u"EQ \\F\\zz(a,b)",
+      u"EQ a\\",
   };
   for (const char16_t* code : refused) EXPECT_EQ(Convert(code), "(refused)") << ToUtf8(code);
   std::vector<word::CodeCharacter> unknownSymbol = Looked(u"EQ a");
@@ -129,9 +150,12 @@ bool WordShowsAnError(const std::u16string& code) {
     if (code.find(bad) != std::u16string::npos) return true;
   int depth = 0;
   for (size_t i = 0; i < code.size(); ++i) {
-    if (code[i] == u'\\') ++i;
-    else if (code[i] == u'(') ++depth;
-    else if (code[i] == u')' && --depth < 0) return true;
+    if (code[i] == u'\\')
+      ++i;
+    else if (code[i] == u'(')
+      ++depth;
+    else if (code[i] == u')' && --depth < 0)
+      return true;
   }
   return depth != 0;
 }

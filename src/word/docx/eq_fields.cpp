@@ -14,6 +14,9 @@ namespace {
 using Code = std::vector<CodeCharacter>;
 
 const char* const kMathNs = "http://schemas.openxmlformats.org/officeDocument/2006/math";
+// A document in the strict form of the format takes math of that form.
+const char* const kStrictWordNs = "http://purl.oclc.org/ooxml/wordprocessingml/main";
+const char* const kStrictMathNs = "http://purl.oclc.org/ooxml/officeDocument/math";
 const char* const kWordNs = "http://schemas.openxmlformats.org/wordprocessingml/2006/main";
 
 bool Named(pugi::xml_node n, const char* name) {
@@ -113,7 +116,8 @@ std::optional<Code> ComplexCode(const FieldRuns& f, const StyleSheet& styles) {
         CodeCharacter s = look;
         s.font = lp::FromUtf8(c.attribute("w:font").value());
         Append(open.back().code,
-               Text(1, static_cast<char16_t>(std::strtoul(c.attribute("w:char").value(), nullptr, 16))),
+               Text(1, static_cast<char16_t>(
+                           std::strtoul(c.attribute("w:char").value(), nullptr, 16))),
                s);
       }
     }
@@ -172,7 +176,9 @@ bool PutMath(const std::string& omml, const FieldRuns& f) {
 void DeclareMathNamespace(pugi::xml_node root) {
   pugi::xml_node top = root.type() == pugi::node_document ? root.first_child() : root;
   while (top && top.type() != pugi::node_element) top = top.next_sibling();
-  if (top && !top.attribute("xmlns:m")) top.append_attribute("xmlns:m") = kMathNs;
+  if (!top || top.attribute("xmlns:m")) return;
+  const bool strict = std::strcmp(top.attribute("xmlns:w").value(), kStrictWordNs) == 0;
+  top.append_attribute("xmlns:m") = strict ? kStrictMathNs : kMathNs;
 }
 
 }  // namespace
