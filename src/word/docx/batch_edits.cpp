@@ -1,6 +1,7 @@
 #include "word/docx/batch_edits.h"
 
 #include <cstring>
+#include <optional>
 #include <vector>
 
 #include "word/docx/field_runs.h"
@@ -78,17 +79,22 @@ bool Removable(pugi::xml_node p) {
 
 }  // namespace
 
-long UnwrapTextHyperlinks(pugi::xml_node root, const std::string& hyperlinkStyleId) {
+long UnwrapTextHyperlinks(pugi::xml_node root,
+                          const std::function<std::string()>& hyperlinkStyleId) {
   long done = 0;
+  std::optional<std::string> styleId;
+  auto dropStyle = [&](pugi::xml_node run) {
+    if (!styleId) styleId = hyperlinkStyleId();
+    DropHyperlinkStyle(run, *styleId);
+  };
   for (pugi::xml_node link : DescendantsNamed(root, {"w:hyperlink"})) {
-    for (pugi::xml_node run : DescendantsNamed(link, {"w:r"}))
-      DropHyperlinkStyle(run, hyperlinkStyleId);
+    for (pugi::xml_node run : DescendantsNamed(link, {"w:r"})) dropStyle(run);
     Unwrap(link);
     ++done;
   }
   for (const FieldRuns& f : OutermostFields(root)) {
     if (FieldKeyword(f.instruction) != "HYPERLINK") continue;
-    for (pugi::xml_node run : f.runs) DropHyperlinkStyle(run, hyperlinkStyleId);
+    for (pugi::xml_node run : f.runs) dropStyle(run);
     if (f.simple) {
       Unwrap(f.simple);
     } else {

@@ -11,8 +11,10 @@
 namespace word::docx {
 
 // w:hyperlink elements and HYPERLINK fields give way to their text; runs lose
-// the hyperlink character style (hyperlinkStyleId, empty if none).
-long UnwrapTextHyperlinks(pugi::xml_node root, const std::string& hyperlinkStyleId);
+// the hyperlink character style (hyperlinkStyleId gives it, empty if none;
+// asked only when there is a link, as it costs a read of the styles).
+long UnwrapTextHyperlinks(pugi::xml_node root,
+                          const std::function<std::string()>& hyperlinkStyleId);
 // Click and hover links of DrawingML objects and the href of VML shapes.
 long RemoveShapeHyperlinks(pugi::xml_node root);
 // The header and footer references of every section.

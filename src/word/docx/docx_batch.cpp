@@ -64,6 +64,7 @@ long DocxDocument::EditOtherStories(const std::vector<std::string>& kinds,
 }
 
 std::string DocxDocument::HyperlinkStyleId() const {
+  Styles();  // reads the styles part
   for (pugi::xml_node style : stylesXml_.child("w:styles").children("w:style")) {
     std::string name = style.child("w:name").attribute("w:val").value();
     if (name == "Hyperlink" || name == "hyperlink") return style.attribute("w:styleId").value();
@@ -72,7 +73,7 @@ std::string DocxDocument::HyperlinkStyleId() const {
 }
 
 long DocxDocument::DeleteTextHyperlinks() {
-  const std::string style = HyperlinkStyleId();
+  auto style = [this] { return HyperlinkStyleId(); };
   auto edit = [&](pugi::xml_node root) { return UnwrapTextHyperlinks(root, style); };
   return EditMain(edit) + EditOtherStories(kOtherStories, edit);
 }
@@ -101,7 +102,7 @@ long DocxDocument::ScaleFormulas(double factor) {
   auto sizeOf = [this](pugi::xml_node run) {
     pugi::xml_node p = run;
     while (p && std::strcmp(p.name(), "w:p") != 0) p = p.parent();
-    return styles_.Effective(run, p).halfPoints.value_or(21);
+    return Styles().Effective(run, p).halfPoints.value_or(21);
   };
   return EditMain([&](pugi::xml_node root) { return ScaleFormulaNodes(root, factor, sizeOf); });
 }
@@ -117,7 +118,7 @@ long DocxDocument::AlignFormulas(bool unshift) {
 EqConversion DocxDocument::ConvertEqFields(const EqFieldConverter& convert) {
   EqConversion result;
   EditMain([&](pugi::xml_node root) {
-    result = ReplaceEqFields(root, convert, styles_);
+    result = ReplaceEqFields(root, convert, Styles());
     return result.converted;
   });
   return result;

@@ -130,7 +130,6 @@ DocxDocument::DocxDocument(Package package, std::filesystem::path file)
   if (!ParseXml(*bytes, xml_)) throw DocxFileError("文件已损坏：正文无法读取。");
   pugi::xml_node body = xml_.child("w:document").child("w:body");
   if (!body) throw DocxFileError("文件不是 Word 文档：正文中没有内容部分。");
-  LoadStyles();
   tracksRevisions_ =
       settings_->TracksRevisions() || settings_->EnforcedProtection() == "trackedChanges";
   revisionAuthor_ = DefaultAuthor();
@@ -142,7 +141,13 @@ DocxDocument::DocxDocument(Package package, std::filesystem::path file)
 
 DocxDocument::~DocxDocument() = default;
 
-void DocxDocument::LoadStyles() {
+const StyleSheet& DocxDocument::Styles() const {
+  if (!stylesLoaded_) LoadStyles();
+  return styles_;
+}
+
+void DocxDocument::LoadStyles() const {
+  stylesLoaded_ = true;
   std::string stylesPart = RelationshipTarget(package_, mainPart_, "/styles");
   std::string themePart = RelationshipTarget(package_, mainPart_, "/theme");
   // A damaged styles or theme part costs the styles, not the document.
@@ -279,7 +284,7 @@ PageGeometry DocxDocument::Geometry() const {
 
 std::pair<long, long> DocxDocument::CaretPage() {
   long pos = &selection_->CurrentStory() == main_.get() ? selection_->Start() : 0;
-  CaretEstimate caret = EstimateCaret(main_->Index(), styles_, Geometry(), pos);
+  CaretEstimate caret = EstimateCaret(main_->Index(), Styles(), Geometry(), pos);
   return {caret.pageStart, std::max(caret.pageStart, caret.pageEnd)};
 }
 
@@ -469,7 +474,7 @@ void DocxDocument::SetShowCode(pugi::xml_node beginFldChar, bool show) {
 
 CharFormat DocxDocument::FormatAt(Story& story, long pos) {
   const StoryIndex& ix = story.Index();
-  if (ix.length == 0) return styles_.Effective({}, {});
+  if (ix.length == 0) return Styles().Effective({}, {});
   const Segment& s = ix.segments[ix.SegmentAt(std::clamp(pos, 0L, ix.length - 1))];
   pugi::xml_node paragraph = s.node;
   while (paragraph && std::strcmp(paragraph.name(), "w:p") != 0) paragraph = paragraph.parent();
@@ -477,7 +482,7 @@ CharFormat DocxDocument::FormatAt(Story& story, long pos) {
   pugi::xml_node run = mark                                              ? paragraph.child("w:pPr")
                        : std::strcmp(s.node.parent().name(), "w:r") == 0 ? s.node.parent()
                                                                          : s.node;
-  return styles_.Effective(run, paragraph);
+  return Styles().Effective(run, paragraph);
 }
 
 }  // namespace word::docx

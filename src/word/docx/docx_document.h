@@ -112,7 +112,8 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   DocxSelection& Selection() { return *selection_; }
   Story& MainStory() { return *main_; }
   Place MakePlace(Story& story, long start, long end);
-  const StyleSheet& Styles() const { return styles_; }
+  // Read at first use: the batch clean-ups of a folder never need them.
+  const StyleSheet& Styles() const;
   bool Changed() const { return changed_; }
   void SetShowCode(pugi::xml_node beginFldChar, bool show);
   // The effective format of the character at pos (or the paragraph mark).
@@ -141,7 +142,7 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   void SetAppState(AppState& state) { appState_ = &state; }
 
  private:
-  void LoadStyles();
+  void LoadStyles() const;
   void RestoreCaret();
   pugi::xml_node CoreProperties() const;
   bool Dirty() const;
@@ -157,13 +158,14 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   std::filesystem::path file_;
   std::string mainPart_;
   pugi::xml_document xml_;
-  pugi::xml_document stylesXml_, themeXml_;
+  mutable pugi::xml_document stylesXml_, themeXml_;
+  mutable bool stylesLoaded_ = false;
   mutable pugi::xml_document coreXml_;
   mutable bool coreLoaded_ = false;
   bool coreChanged_ = false;
   std::unique_ptr<DocumentSettings> settings_;
   std::filesystem::path fontFolder_;
-  StyleSheet styles_;
+  mutable StyleSheet styles_;
   std::shared_ptr<Story> main_;
   std::map<const void*, std::shared_ptr<Story>> boxes_;
   std::unordered_set<const void*> showCodes_;
