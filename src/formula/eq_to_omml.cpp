@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 
 #include "formula/eq_code.h"
 #include "formula/omml_writer.h"
@@ -68,21 +69,18 @@ class OmmlBuilder {
 
   Xml Row(const EqRow& row) {
     std::vector<Item> items;
-    size_t openBar = kNone;
+    std::vector<size_t> open;  // the items that open a bracket or a bar not yet closed
     for (size_t i = 0; i < row.size(); ++i) {
       const EqNode& n = row[i];
+      const char16_t ch = n.kind == EqKind::kChar ? n.ch : 0;
       if (IsScript(n)) {
         const bool pair = i + 1 < row.size() && IsScript(row[i + 1]) && row[i + 1].kind != n.kind;
         items.push_back({ScriptsOn(items, n, pair ? &row[++i] : nullptr)});
       } else if (n.kind == EqKind::kOverstrike) {
         items.push_back({Overstrike(items, n)});
-      } else if (n.kind == EqKind::kChar && n.ch == u'|' && openBar != kNone) {
-        items[openBar] = {omml::Delimited(u"|", u"|", Join(items, openBar + 1))};
-        items.resize(openBar + 1);
-        openBar = kNone;
-      } else {
-        if (n.kind == EqKind::kChar && n.ch == u'|') openBar = items.size();
-        items.push_back({Node(n), n.kind == EqKind::kChar ? n.ch : char16_t(0)});
+      } else if (!Close(items, open, ch)) {
+        if (ch == u'(' || ch == u'|') open.push_back(items.size());
+        items.push_back({Node(n), ch});
       }
     }
     return Join(items, 0);
@@ -93,7 +91,6 @@ class OmmlBuilder {
     Xml xml;
     char16_t ch = 0;  // the character of a character's run
   };
-  static constexpr size_t kNone = static_cast<size_t>(-1);
 
   static Xml Join(const std::vector<Item>& items, size_t from) {
     Xml out;
@@ -101,25 +98,33 @@ class OmmlBuilder {
     return out;
   }
 
-  static bool IsScript(const EqNode& n) {
-    return n.kind == EqKind::kRaised || n.kind == EqKind::kLowered;
+  // A ")" or "|" that closes what an earlier "(" or "|" opened makes the
+  // items between them one delimiter, so that a script behind it raises the
+  // whole bracket and the bracket grows with what it holds.
+  static bool Close(std::vector<Item>& items, std::vector<size_t>& open, char16_t ch) {
+    if (ch != u')' && ch != u'|') return false;
+    const char16_t opening = ch == u')' ? u'(' : u'|';
+    auto it = std::find_if(open.rbegin(), open.rend(),
+                           [&](size_t at) { return items[at].ch == opening; });
+    if (it == open.rend()) return false;
+    const size_t at = *it;
+    open.erase(std::prev(it.base()), open.end());
+    const std::u16string left(1, opening), right(1, ch);
+    items[at] = {omml::Delimited(left, right, Join(items, at + 1))};
+    items.resize(at + 1);
+    return true;
   }
 
-  // What a script stands on: the item before it, or the whole bracket the
-  // item closes.
+  // What a script stands on: the item before it.
   static Xml TakeBase(std::vector<Item>& items) {
     if (items.empty()) return {};
-    size_t first = items.size() - 1;
-    if (items[first].ch == u')') {
-      for (int depth = 0; first-- > 0;) {
-        if (items[first].ch == u')') ++depth;
-        if (items[first].ch == u'(' && depth-- == 0) break;
-      }
-      if (first == static_cast<size_t>(-1)) first = items.size() - 1;
-    }
-    Xml base = Join(items, first);
-    items.resize(first);
+    Xml base = std::move(items.back().xml);
+    items.pop_back();
     return base;
+  }
+
+  static bool IsScript(const EqNode& n) {
+    return n.kind == EqKind::kRaised || n.kind == EqKind::kLowered;
   }
 
   Xml ScriptsOn(std::vector<Item>& items, const EqNode& a, const EqNode* b) {
