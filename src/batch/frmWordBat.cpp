@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QScrollArea>
 #include <QVBoxLayout>
 #include <cstdio>
 
@@ -78,7 +79,14 @@ frmWordBat::frmWordBat(Session& session) : ui::Form(session) {
   grid->addWidget(SSTab1, 4, 0, 1, 4);
   grid->addWidget(prgFiles, 5, 0, 1, 4);
   grid->addWidget(labFile, 6, 0, 1, 4);
-  grid->addWidget(labSummary, 7, 0, 1, 4);
+  // A long summary (the fields left as they were) scrolls instead of
+  // squeezing the tabs.
+  auto* summary = new QScrollArea(this);
+  summary->setWidget(labSummary);
+  summary->setWidgetResizable(true);
+  summary->setFrameShape(QFrame::NoFrame);
+  summary->setMaximumHeight(5 * fontMetrics().lineSpacing());
+  grid->addWidget(summary, 7, 0, 1, 4);
   grid->addWidget(Label(this, "注：因为VBA执行后不可撤销，建议备份文件后再删除。"), 8, 0, 1, 4);
   grid->addWidget(cmdOK, 9, 1);
   grid->addWidget(cmdStop, 9, 2);
