@@ -3,9 +3,10 @@
 # worksheet, headless as a script would run it: tab 0 takes out the other
 # school's header, footer, blank lines, link and author; tab 1 puts this
 # school's name in the file names, the properties and the text, and turns
-# the EQ fields, which LibreOffice does not show, into native equations. The first
-# copy before and after, side by side, becomes one page appended to the
-# worksheet's PDF (pages/batch.pdf). It runs last, on the worksheet as the other steps leave it.
+# the EQ fields, which LibreOffice does not show, into native equations.
+# The first copy before and after, side by side, becomes one page appended
+# to the worksheet's PDF (pages/batch.pdf). The step runs last, on the
+# worksheet as the other steps leave it.
 set -euo pipefail
 here="$(cd "$(dirname "$0")/.." && pwd)"
 work="$here/batch"
