@@ -62,6 +62,31 @@ join)
     { left = $1; width = $2 }
     END { exit bad }' || fail "figures not side by side: $(lefts_and_widths t.docx | tr '\n' ' ')"
   ;;
+render)
+  # Each insert beside the same formula typed through gs, both turned into
+  # native equations by the batch runner: the pairs must come out alike, and
+  # LibreOffice, which shows no EQ field, lays the page out.
+  command -v soffice > /dev/null || { echo "SKIP: no LibreOffice"; exit 77; }
+  mkdir folder
+  seed folder/t.docx "分数：3/4　公式：3/4" "根式：3/27　公式：g(3,27)" "弧：MN　公式：hu(MN)" \
+    "向量：PQ　公式：xl(PQ)" "方程组：x+2y=4，3x-y=5　公式：fcz(x+2y=4,3x-y=5)"
+  for pair in "fraction 3/4" "gs 3/4" "radicalexpression 3/27" "gs g(3,27)" "hu MN" "gs hu(MN)" \
+    "xl PQ" "gs xl(PQ)" "fcz x+2y=4，3x-y=5" "gs fcz(x+2y=4,3x-y=5)"; do
+    read -r word text <<< "$pair"
+    run "$word" --doc folder/t.docx --select "$text" || fail "$word on $text"
+  done
+  seed host.docx "批量处理"
+  run bat --doc host.docx --set "txtFolder=$work/folder" --set txtFile=docx --set SSTab1=1 \
+    --set chkEqToOmml=1 --click cmdOK > /dev/null
+  unzip -p folder/t.docx word/document.xml | python3 -c '
+import re, sys
+pairs = [re.findall(r"<m:oMath>.*?</m:oMath>", p) for p in re.findall(r"<w:p[ >].*?</w:p>", sys.stdin.read())]
+plain = lambda m: re.sub(r"<m:rPr>.*?</m:rPr>|<w:rPr>.*?</w:rPr>", "", m)
+bad = [i + 1 for i, p in enumerate(pairs) if len(p) != 2 or plain(p[0]) != plain(p[1])]
+sys.exit("lines whose insert and formula differ: %s" % bad if bad else 0)' || fail "insert and formula differ"
+  soffice --headless --convert-to pdf --outdir "$work" folder/t.docx > /dev/null 2>&1
+  [[ -s t.pdf ]] || fail "LibreOffice made no page"
+  ;;
 *)
   fail "unknown check $check"
   ;;
