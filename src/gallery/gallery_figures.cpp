@@ -1,8 +1,6 @@
 #include "gallery/gallery_figures.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
 
 #include "gallery/selection_drawing.h"
 #include "runtime/text.h"
@@ -11,15 +9,6 @@
 
 namespace lp::gallery {
 namespace {
-
-// Removes the temporary file however the use of it ends.
-struct TempFile {
-  std::string path;
-  ~TempFile() {
-    std::error_code error;
-    std::filesystem::remove(path, error);
-  }
-};
 
 // "组合：123…_lumenpad" is of the kind "组合".
 std::u16string KindOf(const std::u16string& name) {
@@ -50,7 +39,7 @@ void PlaceAtCaret(Session& session, word::ShapeRange& shapes) {
 }  // namespace
 
 bool InsertEntry(Session& session, long id) {
-  const TempFile file{TempFragmentPath("lumenpad_gallery")};
+  const TempFragment file("lumenpad_gallery");
   if (!LoadEntryFile(session.databasePath, id, file.path, session.prompt)) return false;
   word::Application& app = *session.WordApp;
   GetCaretAnchor(session);
@@ -74,7 +63,7 @@ std::u16string SelectionProblem(Session& session) {
 }
 
 std::optional<DrawingList> EntryDrawing(Session& session, const GalleryEntry& entry) {
-  const TempFile file{TempFragmentPath("lumenpad_thumbnail")};
+  const TempFragment file("lumenpad_thumbnail");
   if (!LoadEntryFile(session.databasePath, entry.id, file.path, session.prompt))
     return std::nullopt;
   return ReadDrawingList(file.path, entry.shapeNames);
@@ -82,7 +71,7 @@ std::optional<DrawingList> EntryDrawing(Session& session, const GalleryEntry& en
 
 std::u16string AddSelectionAsEntry(Session& session, const std::u16string& name) {
   if (std::u16string refused = CheckEntryName(name); !refused.empty()) return refused;
-  const TempFile file{TempFragmentPath("lumenpad_gallery")};
+  const TempFragment file("lumenpad_gallery");
   const SelectionExport exported = ExportSelection(session, file.path);
   if (!exported.error.empty()) return exported.error;
   const SelectionPicture picture = ReadSelectionPicture(file.path, exported);

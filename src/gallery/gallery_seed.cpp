@@ -1,7 +1,6 @@
 #include "gallery/gallery_seed.h"
 
-#include <filesystem>
-#include <system_error>
+#include <algorithm>
 
 #include "gallery/gallery_store.h"
 #include "gallery/selection_drawing.h"
@@ -39,7 +38,7 @@ int SeedGallery(Session& session) {
   const std::u16string seed = session.programFolder + kPathSeparator + u"gallery.docx";
   if (!FileExists(seed)) return 0;
   word::Document& document = session.WordApp->Documents().Open(seed, false);
-  const std::string temp = TempFragmentPath("lumenpad_seed");
+  const TempFragment temp("lumenpad_seed");
   int added = 0;
   word::Shapes& shapes = document.Shapes();
   for (long i = 1; i <= shapes.Count(); ++i) {
@@ -47,12 +46,10 @@ int SeedGallery(Session& session) {
     std::unique_ptr<word::Range> span = AnchorSpan(document, {name});
     if (!span) continue;
     const std::u16string caption = CaptionBefore(document, span->Start());
-    span->ExportFragment(FromUtf8(temp));
-    if (AddEntry(session.databasePath, caption, temp, {name}, session.prompt)) ++added;
+    span->ExportFragment(FromUtf8(temp.path));
+    if (AddEntry(session.databasePath, caption, temp.path, {name}, session.prompt)) ++added;
   }
   document.Close(false);
-  std::error_code error;
-  std::filesystem::remove(temp, error);
   WriteRecordSlot(session.databasePath, kUpdateSlot, u"UpdateOk");
   return added;
 }

@@ -11,11 +11,16 @@
 
 namespace lp::gallery {
 
-std::string TempFragmentPath(const char* stem) {
+TempFragment::TempFragment(const char* stem) {
   static int serial = 0;
   const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
-  return ToUtf8(GetTempDir()) + stem + "_" + std::to_string(now) + "_" + std::to_string(++serial) +
+  path = ToUtf8(GetTempDir()) + stem + "_" + std::to_string(now) + "_" + std::to_string(++serial) +
          ".docx";
+}
+
+TempFragment::~TempFragment() {
+  std::error_code error;
+  std::filesystem::remove(path, error);
 }
 
 namespace {
@@ -113,13 +118,10 @@ SelectionPicture ReadSelectionPicture(const std::string& path, const SelectionEx
 }
 
 SelectionPicture SelectionDrawing(Session& session) {
-  const std::string path = TempFragmentPath("lumenpad_picture");
-  const SelectionExport exported = ExportSelection(session, path);
+  const TempFragment file("lumenpad_picture");
+  const SelectionExport exported = ExportSelection(session, file.path);
   if (!exported.error.empty()) return {exported.error, {}};
-  SelectionPicture picture = ReadSelectionPicture(path, exported);
-  std::error_code error;
-  std::filesystem::remove(path, error);
-  return picture;
+  return ReadSelectionPicture(file.path, exported);
 }
 
 }  // namespace lp::gallery

@@ -35,7 +35,14 @@ SelectionPicture ReadSelectionPicture(const std::string& path, const SelectionEx
 std::unique_ptr<word::Range> AnchorSpan(word::Document& document,
                                         const std::vector<std::u16string>& names);
 
-// A file in the temporary folder for this run's fragments (UTF-8).
-std::string TempFragmentPath(const char* stem);
+// A file in the temporary folder for one fragment (UTF-8), removed however
+// its use ends.
+struct TempFragment {
+  explicit TempFragment(const char* stem);
+  ~TempFragment();
+  TempFragment(const TempFragment&) = delete;
+  TempFragment& operator=(const TempFragment&) = delete;
+  std::string path;
+};
 
 }  // namespace lp::gallery

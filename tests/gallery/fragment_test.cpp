@@ -36,6 +36,12 @@ class Files {
   std::vector<fs::path> made_;
 };
 
+word::docx::Package PackageOf(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  return word::docx::Package::FromBytes(
+      std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()));
+}
+
 // A number line of one arrowed axis, a dot and a label holding a formula.
 void DrawNumberLine(word::Application& app) {
   word::Shapes& shapes = app.ActiveDocument().Shapes();
@@ -116,10 +122,7 @@ TEST(Fragment, InsertFileBringsTheFigureToTheCaretOfAnotherDocument) {
     app->SaveIfChanged();
   }
   // The shapes' namespaces are declared where they now stand.
-  std::ifstream in(target, std::ios::binary);
-  const std::string body =
-      *word::docx::Package::FromBytes(std::string(std::istreambuf_iterator<char>(in), {}))
-           .Read("word/document.xml");
+  const std::string body = *PackageOf(target).Read("word/document.xml");
   for (const char* prefix : {"xmlns:wps=", "xmlns:wpg=", "xmlns:wp=", "xmlns:a="})
     EXPECT_NE(body.substr(0, body.find("<w:body")).find(prefix), std::string::npos) << prefix;
   auto reopened = word::docx::OpenDocx(target);
@@ -149,9 +152,7 @@ TEST(Fragment, InsertFileCopiesThePicturesItsShapesUse) {
     app->Selection().Range()->InsertFile(FromUtf8(fragment.string()));
     app->SaveIfChanged();
   }
-  std::ifstream in(target, std::ios::binary);
-  const auto package = word::docx::Package::FromBytes(
-      std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()));
+  const word::docx::Package package = PackageOf(target);
   const std::string body = *package.Read("word/document.xml");
   const std::string rels = *package.Read("word/_rels/document.xml.rels");
   std::smatch embed;
@@ -181,9 +182,7 @@ TEST(Fragment, APictureTheFragmentDoesNotShowStaysBehind) {
   const long end = document.Content()->End();
   ASSERT_EQ(document.Range(end - 1, end)->ShapeRange()->Count(), 0);
   document.Range(end - 1, end)->ExportFragment(FromUtf8(fragment.string()));
-  std::ifstream in(fragment, std::ios::binary);
-  const auto package = word::docx::Package::FromBytes(
-      std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()));
+  const word::docx::Package package = PackageOf(fragment);
   EXPECT_FALSE(package.Has("word/media/image1.tmp"));
   EXPECT_EQ(package.Read("word/_rels/document.xml.rels")->find("media/image1"), std::string::npos);
   EXPECT_NO_THROW(word::docx::OpenDocx(fragment));
