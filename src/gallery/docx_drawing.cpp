@@ -5,6 +5,7 @@
 #include <zip.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <limits>
 
@@ -53,13 +54,28 @@ struct Map {
 struct Box {
   double x = 0, y = 0, cx = 0, cy = 0;
   bool flipH = false, flipV = false;
+  double rotation = 0;  // degrees, clockwise
 };
+
+// Turns p about c by the box's rotation, as the page shows a turned shape.
+Point Turned(Point p, Point c, double degrees) {
+  if (degrees == 0) return p;
+  const double a = degrees * 3.14159265358979 / 180, cs = std::cos(a), sn = std::sin(a);
+  return {c.x + (p.x - c.x) * cs - (p.y - c.y) * sn, c.y + (p.x - c.x) * sn + (p.y - c.y) * cs};
+}
+
+// Where a point of the box lands in the figure: mapped, then turned about
+// the box's centre.
+Point Place(const Box& box, const Map& map, double x, double y) {
+  return Turned(map(x, y), map(box.x + box.cx / 2, box.y + box.cy / 2), box.rotation);
+}
 
 Box BoxOf(pugi::xml_node xfrm) {
   Box box{Emu(xfrm.child("a:off"), "x"), Emu(xfrm.child("a:off"), "y"),
           Emu(xfrm.child("a:ext"), "cx"), Emu(xfrm.child("a:ext"), "cy")};
   box.flipH = xfrm.attribute("flipH").as_bool();
   box.flipV = xfrm.attribute("flipV").as_bool();
+  box.rotation = xfrm.attribute("rot").as_double() / 60000;
   return box;
 }
 
@@ -112,7 +128,7 @@ std::vector<PathStep> CustomPath(pugi::xml_node custGeom, const Box& box, const 
       double y = h > 0 ? pt.attribute("y").as_double() / h * box.cy : 0;
       if (box.flipH) x = box.cx - x;
       if (box.flipV) y = box.cy - y;
-      return map(box.x + x, box.y + y);
+      return Place(box, map, box.x + x, box.y + y);
     };
     for (pugi::xml_node command : path.children()) {
       std::vector<Point> points;
@@ -134,7 +150,7 @@ std::vector<PathStep> Polygon(const Box& box, const Map& map,
   for (const auto& [fx, fy] : corners) {
     const double x = box.flipH ? 1 - fx : fx, y = box.flipV ? 1 - fy : fy;
     steps.push_back(Step(steps.empty() ? PathStep::kMove : PathStep::kLine,
-                         {map(box.x + x * box.cx, box.y + y * box.cy)}));
+                         {Place(box, map, box.x + x * box.cx, box.y + y * box.cy)}));
   }
   steps.push_back(Step(PathStep::kClose, {}));
   return steps;
@@ -166,6 +182,7 @@ void ReadShape(pugi::xml_node wsp, const Map& map, DrawingList& list) {
     item.path = CustomPath(custom, box, map);
   } else if (preset == "ellipse" || preset == "flowChartConnector") {
     item.kind = Item::kEllipse;
+    item.rotation = box.rotation;
     item.topLeft = map(box.x, box.y);
     item.bottomRight = map(box.x + box.cx, box.y + box.cy);
   } else {
@@ -177,6 +194,7 @@ void ReadShape(pugi::xml_node wsp, const Map& map, DrawingList& list) {
   Item text;
   text.kind = Item::kText;
   text.stroke.visible = false;
+  text.rotation = box.rotation;
   text.topLeft = map(box.x, box.y);
   text.bottomRight = map(box.x + box.cx, box.y + box.cy);
   pugi::xml_node bodyPr = wsp.child("wps:bodyPr");

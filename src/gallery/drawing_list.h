@@ -60,6 +60,9 @@ struct Item {
   Point topLeft, bottomRight;   // kEllipse, and the box of kText
   std::vector<TextLine> lines;  // kText: text inside the box's margins
   double insetLeft = 7.2, insetTop = 3.6;
+  // Ellipses and text turn by this many degrees, clockwise, about the
+  // centre of their box; paths come with their points turned.
+  double rotation = 0;
 };
 
 struct DrawingList {

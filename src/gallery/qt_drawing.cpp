@@ -12,6 +12,7 @@ namespace lp::gallery {
 namespace {
 
 constexpr double kMarginPoints = 4;
+constexpr double kWrapSlack = 1.15;
 
 QColor ColorOf(long rgb) {
   return QColor((rgb >> 16) & 0xFF, (rgb >> 8) & 0xFF, rgb & 0xFF);
@@ -20,6 +21,7 @@ QColor ColorOf(long rgb) {
 // A run laid out at a scale: its font or formula, and its size in pixels.
 struct RunBox {
   const TextRun* run = nullptr;
+  QString text;  // the part of the run's text on this line
   QFont font;
   std::unique_ptr<FormulaPicture> formula;
   double width = 0, ascent = 0, descent = 0;
@@ -31,9 +33,10 @@ struct LineBox {
   int alignment = 0;
 };
 
-RunBox LayOut(const TextRun& run, double scale) {
+RunBox LayOut(const TextRun& run, double scale, const QString& text) {
   RunBox box;
   box.run = &run;
+  box.text = text;
   const double pixels = run.size * scale * (run.script != 0 && !run.formula ? 0.65 : 1.0);
   if (run.formula) {
     box.formula = std::make_unique<FormulaPicture>(QString::fromStdU16String(run.text), pixels);
@@ -49,26 +52,89 @@ RunBox LayOut(const TextRun& run, double scale) {
   box.font.setItalic(run.italic);
   box.font.setBold(run.bold);
   const QFontMetricsF metrics(box.font);
-  box.width = metrics.horizontalAdvance(QString::fromStdU16String(run.text));
+  box.width = metrics.horizontalAdvance(text);
   const double shift = run.script * run.size * scale * 0.35;
   box.ascent = metrics.ascent() + shift;
   box.descent = metrics.descent() - shift;
   return box;
 }
 
-std::vector<LineBox> LayOutLines(const std::vector<TextLine>& lines, double scale) {
+// Lines of a text box wrap at its width (maxWidth > 0), after a blank
+// where the line has one, else after the last character that fits.
+class LineBreaker {
+ public:
+  LineBreaker(double scale, double maxWidth, int alignment)
+      : scale_(scale), maxWidth_(maxWidth), alignment_(alignment) {
+    Start();
+  }
+
+  void Add(const TextRun& run) {
+    if (run.formula) return Place(LayOut(run, scale_, {}));
+    QString rest = QString::fromStdU16String(run.text);
+    while (!rest.isEmpty()) {
+      RunBox piece = LayOut(run, scale_, rest);
+      if (Fits(piece.width)) return Place(std::move(piece));
+      const int n = Fitting(run, rest);
+      if (n == 0) {
+        Break();
+        continue;
+      }
+      Place(LayOut(run, scale_, rest.left(n)));
+      Break();
+      rest = rest.mid(n);
+    }
+  }
+
+  std::vector<LineBox> Finish() {
+    Break();
+    return std::move(lines_);
+  }
+
+ private:
+  void Start() {
+    line_ = LineBox();
+    line_.alignment = alignment_;
+  }
+  // A label sized to its text in another font may run a little wider than
+  // its box; only what clearly overflows wraps.
+  bool Fits(double width) const {
+    return maxWidth_ <= 0 || line_.width + width <= maxWidth_ * kWrapSlack + 2;
+  }
+  void Place(RunBox piece) {
+    if (!Fits(piece.width) && !line_.runs.empty()) Break();
+    line_.width += piece.width;
+    line_.ascent = std::max(line_.ascent, piece.ascent);
+    line_.descent = std::max(line_.descent, piece.descent);
+    line_.runs.push_back(std::move(piece));
+  }
+  void Break() {
+    if (line_.runs.empty()) line_.ascent = 10.5 * scale_;  // an empty line keeps its height
+    lines_.push_back(std::move(line_));
+    Start();
+  }
+  // How many characters of the text fit the rest of the line; at least one
+  // on an empty line.
+  int Fitting(const TextRun& run, const QString& text) const {
+    int n = 0;
+    while (n < text.size() && Fits(LayOut(run, scale_, text.left(n + 1)).width)) ++n;
+    if (n == 0) return line_.runs.empty() ? 1 : 0;
+    const int blank = text.lastIndexOf(u' ', n - 1);
+    return n < text.size() && blank > 0 ? blank + 1 : n;
+  }
+
+  double scale_, maxWidth_;
+  int alignment_;
+  LineBox line_;
+  std::vector<LineBox> lines_;
+};
+
+std::vector<LineBox> LayOutLines(const std::vector<TextLine>& lines, double scale,
+                                 double maxWidth = 0) {
   std::vector<LineBox> boxes;
   for (const TextLine& line : lines) {
-    LineBox box;
-    box.alignment = line.alignment;
-    for (const TextRun& run : line.runs) {
-      box.runs.push_back(LayOut(run, scale));
-      box.width += box.runs.back().width;
-      box.ascent = std::max(box.ascent, box.runs.back().ascent);
-      box.descent = std::max(box.descent, box.runs.back().descent);
-    }
-    if (box.runs.empty()) box.ascent = 10.5 * scale;  // an empty paragraph keeps its height
-    boxes.push_back(std::move(box));
+    LineBreaker breaker(scale, maxWidth, line.alignment);
+    for (const TextRun& run : line.runs) breaker.Add(run);
+    for (LineBox& box : breaker.Finish()) boxes.push_back(std::move(box));
   }
   return boxes;
 }
@@ -89,7 +155,7 @@ void PaintLines(QPainter& painter, const std::vector<LineBox>& lines, QPointF to
         painter.setFont(run.font);
         painter.setPen(color);
         const double shift = run.run->script * run.run->size * scale * 0.35;
-        painter.drawText(QPointF(x, baseline - shift), QString::fromStdU16String(run.run->text));
+        painter.drawText(QPointF(x, baseline - shift), run.text);
       }
       x += run.width;
     }
@@ -143,6 +209,12 @@ void PaintArrows(QPainter& painter, const QPainterPath& path, const Stroke& stro
 void PaintItem(QPainter& painter, const Item& item, double scale, QPointF origin) {
   const QRectF box(origin + QPointF(item.topLeft.x * scale, item.topLeft.y * scale),
                    origin + QPointF(item.bottomRight.x * scale, item.bottomRight.y * scale));
+  painter.save();
+  if (item.rotation != 0) {
+    painter.translate(box.center());
+    painter.rotate(item.rotation);
+    painter.translate(-box.center());
+  }
   painter.setPen(item.stroke.visible ? PenOf(item.stroke, scale) : QPen(Qt::NoPen));
   painter.setBrush(item.fill.visible ? QBrush(ColorOf(item.fill.rgb)) : QBrush(Qt::NoBrush));
   if (item.kind == Item::kEllipse) {
@@ -152,10 +224,11 @@ void PaintItem(QPainter& painter, const Item& item, double scale, QPointF origin
     painter.drawPath(path);
     if (item.stroke.visible) PaintArrows(painter, path, item.stroke, scale);
   } else {
-    const std::vector<LineBox> lines = LayOutLines(item.lines, scale);
     const QPointF inset(item.insetLeft * scale, item.insetTop * scale);
+    const std::vector<LineBox> lines = LayOutLines(item.lines, scale, box.width() - 2 * inset.x());
     PaintLines(painter, lines, box.topLeft() + inset, box.width() - 2 * inset.x(), scale);
   }
+  painter.restore();
 }
 
 // A list of text alone (a formula) has no size of its own: its lines give it.
