@@ -46,7 +46,7 @@ soffice --headless --convert-to pdf b.docx before.docx > /dev/null 2>&1 || fail 
 pdftoppm -r 100 -f 1 -l 1 before.pdf before
 pdftoppm -r 100 -f 1 -l 1 b.pdf after
 read -r text figure <<< "$(python3 "$here/dark_box.py" --count before-1.ppm after-1.ppm | tr '\n' ' ')"
-((figure > text + 100)) || fail "the page shows no drawing: $text dark pixels before, $figure after"
+((figure > text + 60)) || fail "the page shows no drawing: $text dark pixels before, $figure after"
 
 # Refused: nothing selected, a cancelled or empty name; nothing changes.
 before="$(names)"
