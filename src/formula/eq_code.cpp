@@ -33,9 +33,12 @@ char16_t Mirror(char16_t open) {
   }
 }
 
+enum Side { kTop = 1, kBottom = 2, kLeft = 4, kRight = 8, kAllSides = 15 };
+
 // What the options of one switch said.
 struct Options {
-  bool down = false, overline = false, underline = false;
+  bool down = false;
+  int sides = 0;  // of a box: the kTop, kBottom, kLeft and kRight bits
   long columns = 1;
   char16_t open = u'(', close = u')';
   bool bracketsSet = false;
@@ -141,10 +144,8 @@ class EqParser {
       o.bracketsSet = true;
       if (word != u"RC") o.open = b;
       if (word != u"LC") o.close = word == u"BC" ? Mirror(b) : b;
-    } else if (word == u"TO") {
-      o.overline = true;
-    } else if (word == u"BO") {
-      o.underline = true;
+    } else if (word == u"TO" || word == u"BO" || word == u"LE" || word == u"RI") {
+      o.sides |= word == u"TO" ? kTop : word == u"BO" ? kBottom : word == u"LE" ? kLeft : kRight;
     } else if (word != u"AL" && word != u"AC" && word != u"AR") {
       throw EqCodeError("unknown option");
     }
@@ -185,8 +186,13 @@ class EqParser {
         n.kind = EqKind::kOverstrike;
         return n;
       case u'X':
-        if (count != 1 || o.overline == o.underline) throw EqCodeError("a box of other sides");
-        n.kind = o.overline ? EqKind::kOverline : EqKind::kUnderline;
+        if (count != 1) throw EqCodeError("a box holds one part");
+        if (o.sides == kTop || o.sides == kBottom)
+          n.kind = o.sides == kTop ? EqKind::kOverline : EqKind::kUnderline;
+        else if (o.sides == 0 || o.sides == kAllSides)
+          n.kind = EqKind::kBox;
+        else
+          throw EqCodeError("a box of some sides");
         return n;
       case u'B':
         if (count != 1) throw EqCodeError("brackets hold one part");
@@ -195,8 +201,13 @@ class EqParser {
         n.close = o.close;
         return n;
       case u'A':
-        if (o.columns > 1) throw EqCodeError("an array of columns");
+        if (o.columns > 1 && count % static_cast<size_t>(o.columns) != 0)
+          throw EqCodeError("an array with a line not full");
         n.kind = EqKind::kArray;
+        n.columns = o.columns > 1 ? static_cast<size_t>(o.columns) : 1;
+        return n;
+      case u'L':
+        n.kind = EqKind::kList;
         return n;
       default:
         throw EqCodeError("a switch lumenpad does not convert");

@@ -1,7 +1,7 @@
 #pragma once
 // The code of an EQ field read into a tree: the switches lumenpad and Word
 // write (\F fraction, \R radical, \S script with \UP and \DO, \O overstrike,
-// \X box, \B brackets, \A array) over the characters of the code, each of
+// \X box, \B brackets, \A array, \L list) over the characters of the code, each of
 // which remembers where it stood, so that its font can be found again.
 
 #include <stdexcept>
@@ -24,7 +24,9 @@ enum class EqKind {
   kOverline,    // rows: the text under the line
   kUnderline,   // rows: the text over the line
   kBrackets,    // rows: the bracketed text; open and close
-  kArray,       // rows: one per element
+  kArray,       // rows: one per element, `columns` to a line
+  kBox,         // rows: the boxed text
+  kList,        // rows: the listed texts
 };
 
 struct EqNode;
@@ -35,6 +37,7 @@ struct EqNode {
   char16_t ch = 0;               // kChar
   size_t source = 0;             // kChar: its index in the code
   char16_t open = 0, close = 0;  // kBrackets; 0 draws no bracket
+  size_t columns = 1;            // kArray
   std::vector<EqRow> rows;
 };
 

@@ -193,7 +193,15 @@ class OmmlBuilder {
       case EqKind::kArray: {
         std::vector<Xml> rows;
         for (const EqRow& r : n.rows) rows.push_back(Row(r));
-        return omml::EquationArray(rows);
+        return n.columns > 1 ? omml::Matrix(rows, n.columns) : omml::EquationArray(rows);
+      }
+      case EqKind::kBox:
+        return omml::BorderBox(Row(n.rows[0]));
+      case EqKind::kList: {
+        Xml list;
+        for (size_t i = 0; i < n.rows.size(); ++i)
+          list += (i ? omml::Run(u",") : "") + Row(n.rows[i]);
+        return list;
       }
       default:  // scripts and overstrikes are read by Row
         throw EqCodeError("script outside a row");

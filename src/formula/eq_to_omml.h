@@ -3,8 +3,9 @@
 // native equation: \F a fraction, \R a radical with or without index, \S
 // scripts on the character or bracket before them, \O of two scripts both
 // scripts, \O of a raised sign an accent (arc, arrow, bar, the dot of a
-// recurring decimal), \X\TO an overline, \B brackets, \A an equation array;
-// a pair of vertical bars encloses an absolute value.
+// recurring decimal), \X\TO an overline, \X all round a box, \B brackets,
+// \A an equation array (a matrix with \CO), \L a list; a pair of vertical
+// bars encloses an absolute value.
 // Symbol-font letters become Greek, the wide signs the font pass made become
 // math signs, and every other character keeps its typeface and italic.
 

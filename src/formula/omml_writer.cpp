@@ -83,6 +83,20 @@ Xml EquationArray(const std::vector<Xml>& rows) {
   return Wrap("eqArr", inner);
 }
 
+Xml Matrix(const std::vector<Xml>& cells, size_t columns) {
+  Xml rows;
+  for (size_t at = 0; at < cells.size(); at += columns) {
+    Xml row;
+    for (size_t i = at; i < at + columns && i < cells.size(); ++i) row += Wrap("e", cells[i]);
+    rows += Wrap("mr", row);
+  }
+  return Wrap("m", rows);
+}
+
+Xml BorderBox(const Xml& content) {
+  return Wrap("borderBox", Wrap("e", content));
+}
+
 Xml Math(const Xml& body) {
   return Wrap("oMath", body);
 }

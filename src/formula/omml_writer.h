@@ -34,6 +34,9 @@ Xml GroupCharacter(const std::u16string& character, const Xml& base);
 // Delimiters around the content; an empty one is not drawn.
 Xml Delimited(const std::u16string& open, const std::u16string& close, const Xml& content);
 Xml EquationArray(const std::vector<Xml>& rows);
+// A matrix of the cells, `columns` to a line.
+Xml Matrix(const std::vector<Xml>& cells, size_t columns);
+Xml BorderBox(const Xml& content);
 Xml Math(const Xml& body);
 
 }  // namespace lp::omml
