@@ -40,6 +40,11 @@ std::unique_ptr<word::Shape> AddShape(word::Shapes& shapes, const FigureShape& f
     case ShapeKind::kTextBox:
       return shapes.AddTextbox(word::msoTextOrientationHorizontal, f.left, f.top, f.width,
                                f.height);
+    case ShapeKind::kFlowShape:
+      return shapes.AddShape(f.flowShape, f.left, f.top, f.width, f.height);
+    case ShapeKind::kConnector:
+      return shapes.AddConnector(f.elbow ? word::msoConnectorElbow : word::msoConnectorStraight,
+                                 f.points[0].x, f.points[0].y, f.points[1].x, f.points[1].y);
     case ShapeKind::kCurve: {
       std::vector<word::PointF> points;
       for (const Point& p : f.points) points.push_back({p.x, p.y});
@@ -83,7 +88,7 @@ void ApplyText(word::Shape& shape, const FigureShape& f) {
   word::TextFrame& frame = shape.TextFrame();
   frame.SetMarginLeft(0);
   frame.SetMarginRight(0);
-  frame.SetMarginTop(0);
+  frame.SetMarginTop(f.textMarginTop);
   frame.SetMarginBottom(0);
   std::unique_ptr<word::Range> text = frame.TextRange();
   if (f.textIsEqField) {
@@ -110,8 +115,8 @@ void ApplyFormat(word::Shape& shape, const FigureShape& f) {
   // An open freeform is never filled; a closed one keeps Word's default
   // fill unless the figure asks for one.
   const bool freeformFill = f.kind == ShapeKind::kFreeform && f.fill != FillKind::kNone;
-  if ((f.kind != ShapeKind::kLine && f.kind != ShapeKind::kFreeform) || freeformFill)
-    ApplyFill(shape.Fill(), f);
+  const bool lineLike = f.kind == ShapeKind::kLine || f.kind == ShapeKind::kConnector;
+  if ((!lineLike && f.kind != ShapeKind::kFreeform) || freeformFill) ApplyFill(shape.Fill(), f);
   if (f.kind == ShapeKind::kTextBox) shape.WrapFormat().SetType(word::wdWrapNone);
   if (f.kind == ShapeKind::kTextBox || !f.text.empty() || f.naming == Naming::kExact)
     ApplyText(shape, f);
@@ -135,14 +140,35 @@ class ScreenUpdatingOff {
   word::Application& app_;
 };
 
+// Both ends attached, so the connector follows its shapes when they move.
+void Connect(word::Shape& connector, const FigureShape& f,
+             const std::vector<std::unique_ptr<word::Shape>>& made) {
+  word::ConnectorFormat& ends = connector.ConnectorFormat();
+  ends.BeginConnect(*made.at(f.from), f.fromSite);
+  ends.EndConnect(*made.at(f.to), f.toSite);
+  word::LineFormat& line = connector.Line();
+  if (f.arrowAtFrom) {
+    line.SetBeginArrowheadLength(word::msoArrowheadLengthMedium);
+    line.SetBeginArrowheadWidth(word::msoArrowheadWidthMedium);
+    line.SetBeginArrowheadStyle(word::msoArrowheadTriangle);
+  } else {
+    line.SetEndArrowheadLength(word::msoArrowheadLengthMedium);
+    line.SetEndArrowheadWidth(word::msoArrowheadWidthMedium);
+    line.SetEndArrowheadStyle(word::msoArrowheadTriangle);
+  }
+}
+
 }  // namespace
 
 void DrawShapeList(Session& s, const ShapeList& shapes) {
   word::Shapes& target = s.WordApp->ActiveDocument().Shapes();
+  std::vector<std::unique_ptr<word::Shape>> made;
   for (const FigureShape& f : shapes) {
     std::unique_ptr<word::Shape> shape = AddShape(target, f);
     shape->SetName(ShapeName(s, f));
     ApplyFormat(*shape, f);
+    if (f.kind == ShapeKind::kConnector) Connect(*shape, f, made);
+    made.push_back(std::move(shape));
   }
 }
 

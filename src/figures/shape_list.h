@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "word/types.h"
+
 namespace lp::figures {
 
 struct Point {
@@ -20,6 +22,9 @@ enum class ShapeKind {
   kCurve,      // Bezier through points (3k + 1 of them)
   kFreeform,   // from points[0], open: straight segments, or curved ones
                // taking three points each (two controls and the end)
+  kFlowShape,  // left, top, width, height: the autoshape `flowShape`, with text
+  kConnector,  // points[0] to points[1], attached at both ends (see below),
+               // with an arrow
 };
 
 // How the shape's name is made from `name`.
@@ -67,6 +72,16 @@ struct FigureShape {
   FillKind fill = FillKind::kNone;
   long rgb = 0;
   long pattern = 0;
+  float textMarginTop = 0;  // lowers the text within its shape
+  word::MsoAutoShapeType flowShape = word::msoShapeFlowchartProcess;
+  // A connector runs from connection site fromSite of the shape at index
+  // `from` of the list to site toSite of the shape at `to`.
+  size_t from = 0;
+  size_t to = 0;
+  long fromSite = 0;
+  long toSite = 0;
+  bool elbow = false;        // leaves `from` horizontally, meets `to` vertically
+  bool arrowAtFrom = false;  // the arrow points into `from`, not `to`
 };
 
 using ShapeList = std::vector<FigureShape>;

@@ -46,7 +46,7 @@ inline constexpr std::array<CommandRow, 41> kCommandTable{{
     {u"gs", How::kRoutine, u"frmGS", true},
     {u"shapeselecter", How::kModal, u"frmShapeSelecter", true},
     {u"tk", How::kModeless, u"frmTK", true},
-    {u"kt", How::kModeless, u"frmKT", false},
+    {u"kt", How::kModeless, u"frmKT", true},
     {u"zft", How::kModeless, u"frmZFT", true},
     {u"sxt", How::kModeless, u"frmSXT", true},
     {u"sector", How::kModeless, u"frmSector", true},

@@ -8,6 +8,7 @@
 #include "figures/frmDot.h"
 #include "figures/frmFangGe.h"
 #include "figures/frmInterval.h"
+#include "figures/frmKT.h"
 #include "figures/frmSector.h"
 #include "figures/frmShapeSelecter.h"
 #include "figures/frmXDT.h"
@@ -64,6 +65,7 @@ const std::array kForms{
     FormBinding{u"frmFangGe", &ui::MakeForm<frmFangGe>},
     FormBinding{u"frmDot", &ui::MakeForm<frmDot>},
     FormBinding{u"frmShapeSelecter", &ui::MakeForm<frmShapeSelecter>},
+    FormBinding{u"frmKT", &ui::MakeForm<frmKT>},
     FormBinding{u"frmZFT", &ui::MakeForm<frmZFT>},
     FormBinding{u"frmSXT", &ui::MakeForm<frmSXT>},
     FormBinding{u"frmAngle2Radian", &ui::MakeForm<frmAngle2Radian>},

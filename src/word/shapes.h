@@ -71,6 +71,18 @@ class WrapFormat {
 };
 
 class Shapes;
+class Shape;
+
+// The ends of a connector: each can be attached to a connection site of a
+// shape (1-based, counter-clockwise from the top for the rectangle and the
+// flow-chart shapes: 1 top, 2 left, 3 bottom, 4 right) and moves there, and
+// stays attached when that shape moves.
+class ConnectorFormat {
+ public:
+  virtual ~ConnectorFormat() = default;
+  virtual void BeginConnect(Shape& connectedShape, long connectionSite) = 0;
+  virtual void EndConnect(Shape& connectedShape, long connectionSite) = 0;
+};
 
 // One shape, or with ShapeRange several at once: properties set on a range
 // apply to each of its shapes.
@@ -106,6 +118,10 @@ class Shape {
   // than the members above: a back end without canvases answers as Word does
   // for a member an object does not have.
   virtual std::unique_ptr<Shapes> CanvasItems() { NotSupported(); }
+  // A connector's ends. Added later than the members above: a back end
+  // without connectors answers as Word does for a member an object does not
+  // have.
+  virtual word::ConnectorFormat& ConnectorFormat() { NotSupported(); }
 };
 
 class ShapeRange : public Shape {
@@ -146,6 +162,11 @@ class Shapes {
   virtual std::unique_ptr<Shape> AddCurve(const std::vector<PointF>& points) = 0;
   virtual std::unique_ptr<FreeformBuilder> BuildFreeform(MsoEditingType editing, float x1,
                                                          float y1) = 0;
+  // A connector from begin to end, attached to nothing until its
+  // ConnectorFormat connects it. Added later than the members above.
+  virtual std::unique_ptr<Shape> AddConnector(MsoConnectorType, float, float, float, float) {
+    NotSupported();
+  }
 };
 
 }  // namespace word

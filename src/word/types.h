@@ -67,7 +67,15 @@ enum MsoZOrderCmd {
   msoBringInFrontOfText = 4,
   msoSendBehindText = 5,
 };
-enum MsoAutoShapeType { msoShapeRectangle = 1, msoShapeOval = 9 };
+enum MsoAutoShapeType {
+  msoShapeRectangle = 1,
+  msoShapeOval = 9,
+  msoShapeFlowchartProcess = 61,
+  msoShapeFlowchartDecision = 63,
+  msoShapeFlowchartData = 64,
+  msoShapeFlowchartTerminator = 69,
+};
+enum MsoConnectorType { msoConnectorStraight = 1, msoConnectorElbow = 2 };
 enum MsoTextOrientation { msoTextOrientationHorizontal = 1 };
 enum MsoEditingType { msoEditingAuto = 0, msoEditingCorner = 1 };
 enum MsoSegmentType { msoSegmentLine = 0, msoSegmentCurve = 1 };

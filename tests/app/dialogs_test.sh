@@ -114,6 +114,32 @@ assert len(boxes) == 1 and boxes.pop().startswith("Group"), rows
 assert {r[0] for r in rows if not r[1].startswith("Text Box")} == {"扇形"}, rows
 PY
   ;;
+kt)
+  seed t.docx "流程图：【图】"
+  cp t.docx before.docx
+  out="$(run kt --doc t.docx --set txtSteps=$'x=1\n否：y=2' --click cmdOK --click cmdExit 2>&1)"
+  [[ "$out" == *"“否：”一行应紧跟在判断框"* ]] || fail "no message: $out"
+  cmp -s t.docx before.docx || fail "refused steps changed the document"
+  run kt --doc t.docx --set txtSteps=$'输入 n\nn>100？\n否：n=n+1\n输出 n' --set optYN_1=1 \
+    --set chkJoin=0 --click cmdExit
+  [[ "$(sqlite3 "$db" 'select Data from record where id=14')" == $'输入 n\nn>100？\n否：n=n+1\n输出 n@@1@@3@@1@@0' ]] ||
+    fail "slot: $(sqlite3 "$db" 'select Data from record where id=14')"
+  # The remembered steps: every connector attached at both ends, on the
+  # connection sites computed from each shape's own geometry.
+  run kt --doc t.docx --select "【图】" --click cmdOK --click cmdExit
+  python3 "$here/connector_check.py" t.docx > links.txt
+  [[ "$(cat links.txt)" == $'开始@3 -> 输入 n@1\n输入 n@3 -> n>100？@1\nn>100？@4 -> n=n+1@2\nn>100？@3 -> 输出 n@1\n输出 n@3 -> 结束@1' ]] ||
+    fail "connectors: $(cat links.txt)"
+  python3 "$here/figure_dump.py" t.docx > shapes.tsv
+  [[ "$(awk -F'\t' '$2 == "是否" {print $8}' shapes.tsv | sort | tr -d '\n')" == NY ]] ||
+    fail "Y/N labels: $(cat shapes.tsv)"
+  # An if-else: the "否" step comes back beside the step after the "是" step.
+  seed f.docx "流程图：【图】"
+  run kt --doc f.docx --select "【图】" --set txtSteps=$'x≥0？\n否：y=-x\ny=x\n输出 y' \
+    --set chkJoin=1 --click cmdOK --click cmdExit
+  python3 "$here/connector_check.py" f.docx > links.txt
+  grep -qx '输出 y@4 -> y=-x@3' links.txt || fail "no way back from 否: $(cat links.txt)"
+  ;;
 *)
   fail "unknown check $check"
   ;;

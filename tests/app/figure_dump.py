@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """figure_dump.py FILE: the floating shapes of a .docx body, one line each,
 tab-separated: the group's name base ("-" outside a group), the shape's name
-base (before "："), its kind (line, rect, text, path:N with N the points of
+base (before "："), its kind (line, connector, rect, text, path:N with N the points of
 its path), left, top, width and height in points within the group, and its
 text or field code. Bases keep the end-to-end checks free of the random
 digits of the names."""
@@ -28,6 +28,8 @@ def kind(wsp):
     geom = sppr.find("a:prstGeom", NS)
     if geom is not None and geom.get("prst") == "line":
         return "line"
+    if wsp.find("wps:cNvCnPr", NS) is not None:
+        return "connector"
     path = sppr.find("a:custGeom", NS)
     if path is not None:
         return "path:%d" % len(path.findall(".//a:pt", NS))

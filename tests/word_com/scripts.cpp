@@ -3,6 +3,8 @@
 #include "charts/histogram.h"
 #include "charts/pie_chart.h"
 #include "figures/draw_list.h"
+#include "figures/flow_chart.h"
+#include "figures/point_labels.h"
 #include "figures/segment_diagram.h"
 #include "formula/angle_radian.h"
 #include "formula/commands.h"
@@ -87,6 +89,19 @@ void PieChart(lp::Session& session) {
   lp::charts::PieRequest request;
   request.fill = true;
   lp::figures::DrawFigure(session, lp::charts::PieChart(request, &Quarter), u"组合");
+}
+
+void FlowChart(lp::Session& session) {
+  lp::figures::FlowChartRequest request;
+  request.steps = u"输入 x\nx≥0？\n否：y=-x\ny=x\n输出 y";
+  lp::figures::DrawFigure(session, lp::figures::MakeFlowChart(request).shapes, u"流程图");
+}
+
+void PointLabels(lp::Session& session) {
+  lp::figures::PointLabelRequest request;
+  request.alongSegment = true;
+  request.names = u"A1'";
+  lp::figures::DrawFigure(session, lp::figures::MakePointLabels(request).shapes, u"标点");
 }
 
 // A tool that runs without a dialog asks nothing of the user interface.
@@ -242,6 +257,8 @@ const std::vector<Script>& Scripts() {
       {"segment diagram", {u"", u"", u""}, &SegmentDiagram, ""},
       {"histogram", {u"", u"", u""}, &Histogram, ""},
       {"pie chart", {u"", u"", u""}, &PieChart, ""},
+      {"flow chart", {u"", u"", u""}, &FlowChart, ""},
+      {"point labels", {u"", u"", u""}, &PointLabels, ""},
       {"shushi", {u"", u"123+45", u""}, &ShuShi, "123+45"},
       {"gs", {u"解：", u"x^2+1", u"。"}, &Gs, "解：{ EQ x[size=7:\\S(2)]＋1 }。"},
       {"gs over a paragraph",

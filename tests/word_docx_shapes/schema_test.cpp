@@ -31,6 +31,21 @@ void AddEveryKind(word::Shapes& shapes, TestHost& host) {
   oval->SetName(u"点：1_lumenpad");
   shapes.Item(1)->SetName(u"柱：2_lumenpad");
   shapes.Range({u"柱：2_lumenpad", u"点：1_lumenpad"})->Group()->ZOrder(word::msoSendBehindText);
+  auto question = shapes.AddShape(word::msoShapeFlowchartDecision, 100, 500, 80, 40);
+  auto data = shapes.AddShape(word::msoShapeFlowchartData, 100, 600, 80, 30);
+  auto straight = shapes.AddConnector(word::msoConnectorStraight, 0, 0, 10, 10);
+  straight->ConnectorFormat().BeginConnect(*question, 3);
+  straight->ConnectorFormat().EndConnect(*data, 1);
+  auto elbow = shapes.AddConnector(word::msoConnectorElbow, 0, 0, 10, 10);
+  elbow->ConnectorFormat().BeginConnect(*data, 4);
+  elbow->ConnectorFormat().EndConnect(*question, 4);
+  elbow->Line().SetBeginArrowheadStyle(word::msoArrowheadTriangle);
+  const std::vector<word::Text> chart = {u"流程：1", u"流程：2", u"流程：3", u"流程：4"};
+  question->SetName(chart[0]);
+  data->SetName(chart[1]);
+  straight->SetName(chart[2]);
+  elbow->SetName(chart[3]);
+  shapes.Range(chart)->Group();
 }
 
 TEST(ShapeSchema, EveryKindOfShapeValidates) {

@@ -87,6 +87,17 @@ class ComWrapFormat : public WrapFormat, public ComNode {
   void SetType(WdWrapType type) override { Put(L"Type", static_cast<long>(type)); }
 };
 
+class ComConnectorFormat : public ConnectorFormat, public ComNode {
+ public:
+  using ComNode::ComNode;
+  void BeginConnect(Shape& connectedShape, long connectionSite) override {
+    Call(L"BeginConnect", {DispatchOf(connectedShape).get(), connectionSite});
+  }
+  void EndConnect(Shape& connectedShape, long connectionSite) override {
+    Call(L"EndConnect", {DispatchOf(connectedShape).get(), connectionSite});
+  }
+};
+
 template <class Base>
 class ShapeImpl : public Base, public ComNode {
  public:
@@ -95,7 +106,8 @@ class ShapeImpl : public Base, public ComNode {
         line_(Member(L"Line")),
         fill_(Member(L"Fill")),
         textFrame_(Member(L"TextFrame")),
-        wrap_(Member(L"WrapFormat")) {}
+        wrap_(Member(L"WrapFormat")),
+        connector_(Member(L"ConnectorFormat")) {}
 
   word::Text Name() const override { return Get(L"Name").ToText(); }
   void SetName(const word::Text& name) override { Put(L"Name", name); }
@@ -114,6 +126,7 @@ class ShapeImpl : public Base, public ComNode {
   FillFormat& Fill() override { return fill_; }
   word::TextFrame& TextFrame() override { return textFrame_; }
   word::WrapFormat& WrapFormat() override { return wrap_; }
+  word::ConnectorFormat& ConnectorFormat() override { return connector_; }
   void ZOrder(MsoZOrderCmd command) override { Call(L"ZOrder", {static_cast<long>(command)}); }
   void Select(bool replace) override { Call(L"Select", {replace}); }
   void SetRelativeHorizontalPosition(WdRelativeHorizontalPosition to) override {
@@ -130,6 +143,7 @@ class ShapeImpl : public Base, public ComNode {
   ComFillFormat fill_;
   ComTextFrame textFrame_;
   ComWrapFormat wrap_;
+  ComConnectorFormat connector_;
 };
 
 class ComShape : public ShapeImpl<Shape> {
@@ -186,6 +200,11 @@ class ComShapes : public Shapes, public ComNode {
                                                  float y1) override {
     return std::make_unique<ComFreeformBuilder>(
         Fixed(L"BuildFreeform", {static_cast<long>(editing), x1, y1}));
+  }
+  std::unique_ptr<Shape> AddConnector(MsoConnectorType type, float beginX, float beginY, float endX,
+                                      float endY) override {
+    return std::make_unique<ComShape>(
+        Fixed(L"AddConnector", {static_cast<long>(type), beginX, beginY, endX, endY}));
   }
 };
 

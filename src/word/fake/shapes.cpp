@@ -35,7 +35,8 @@ ShapeImpl<Base>::ShapeImpl(State& state, std::string path, ShapeList targets)
       fill_(state, path + ".Fill"),
       textFrame_(state, path + ".TextFrame",
                  targets_.empty() ? std::make_shared<Text>() : targets_.front()->text),
-      wrap_(state, path + ".WrapFormat") {}
+      wrap_(state, path + ".WrapFormat"),
+      connector_(state, path + ".ConnectorFormat") {}
 
 template <class Base>
 const ShapeState& ShapeImpl<Base>::First() const {
@@ -142,6 +143,14 @@ std::unique_ptr<ShapeRange> FakeShapes::Range(const std::vector<word::Text>& nam
 std::unique_ptr<Shape> FakeShapes::AddLine(float beginX, float beginY, float endX, float endY) {
   Call("AddLine", beginX, beginY, endX, endY);
   auto shape = st_.NewShape(doc_, msoLine, std::min(beginX, endX), std::min(beginY, endY),
+                            std::abs(endX - beginX), std::abs(endY - beginY));
+  return std::make_unique<FakeShape>(st_, shape);
+}
+
+std::unique_ptr<Shape> FakeShapes::AddConnector(MsoConnectorType type, float beginX, float beginY,
+                                                float endX, float endY) {
+  Call("AddConnector", static_cast<long>(type), beginX, beginY, endX, endY);
+  auto shape = st_.NewShape(doc_, msoAutoShape, std::min(beginX, endX), std::min(beginY, endY),
                             std::abs(endX - beginX), std::abs(endY - beginY));
   return std::make_unique<FakeShape>(st_, shape);
 }

@@ -94,6 +94,24 @@ class FakeWrapFormat : public WrapFormat, public Node {
   void SetType(WdWrapType type) override { Put("Type", static_cast<long>(type)); }
 };
 
+// Records the connections by the connected shape as the records write it.
+class FakeConnectorFormat : public ConnectorFormat, public Node {
+ public:
+  using Node::Node;
+  void BeginConnect(Shape& connectedShape, long connectionSite) override {
+    Call("BeginConnect", Written(connectedShape), connectionSite);
+  }
+  void EndConnect(Shape& connectedShape, long connectionSite) override {
+    Call("EndConnect", Written(connectedShape), connectionSite);
+  }
+
+ private:
+  static std::string Written(const Shape& shape) {
+    const auto* node = dynamic_cast<const Node*>(&shape);
+    return node ? node->Path() : Arg(shape.Name());
+  }
+};
+
 // A shape or a range of shapes: getters read the first, setters change all.
 template <class Base>
 class ShapeImpl : public Base, public Node {
@@ -115,6 +133,7 @@ class ShapeImpl : public Base, public Node {
   FillFormat& Fill() override { return fill_; }
   word::TextFrame& TextFrame() override { return textFrame_; }
   word::WrapFormat& WrapFormat() override { return wrap_; }
+  word::ConnectorFormat& ConnectorFormat() override { return connector_; }
   void ZOrder(MsoZOrderCmd command) override { Call("ZOrder", static_cast<long>(command)); }
   void Select(bool replace) override;
   void SetRelativeHorizontalPosition(WdRelativeHorizontalPosition to) override {
@@ -138,6 +157,7 @@ class ShapeImpl : public Base, public Node {
   FakeFillFormat fill_;
   FakeTextFrame textFrame_;
   FakeWrapFormat wrap_;
+  FakeConnectorFormat connector_;
 };
 
 class FakeShape : public ShapeImpl<Shape> {
@@ -189,6 +209,8 @@ class FakeShapes : public Shapes, public Node {
   std::unique_ptr<Shape> AddCurve(const std::vector<PointF>& points) override;
   std::unique_ptr<FreeformBuilder> BuildFreeform(MsoEditingType editing, float x1,
                                                  float y1) override;
+  std::unique_ptr<Shape> AddConnector(MsoConnectorType type, float beginX, float beginY, float endX,
+                                      float endY) override;
 
  private:
   std::shared_ptr<ShapeState> Find(const word::Text& name) const;

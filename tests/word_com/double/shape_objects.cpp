@@ -95,6 +95,27 @@ const std::vector<Member>& WrapMembers() {
   return members;
 }
 
+// The ends of a connector: the double keeps which shape and site each end is
+// attached to, as "name@site".
+Value Connect(ShapeFormatObj& f, const char* end, Args& a) {
+  auto* shape = dynamic_cast<ShapeObj*>(std::get<Object*>(a[0]));
+  if (!shape) throw NoSuchShape();
+  const std::string site = std::to_string(AsLong(a[1]));
+  f.KeepValue(end, shape->First().name + u"@" + Text(site.begin(), site.end()));
+  return {};
+}
+
+const std::vector<Member>& ConnectorMembers() {
+  static const std::vector<Member> members =
+      Table<ShapeFormatObj>()
+          .Method(L"BeginConnect", "ol",
+                  [](ShapeFormatObj& f, Args& a) { return Connect(f, "Begin", a); })
+          .Method(L"EndConnect", "ol",
+                  [](ShapeFormatObj& f, Args& a) { return Connect(f, "End", a); })
+          .Done();
+  return members;
+}
+
 template <float ShapeState::*F>
 Value GetPlace(ShapeObj& s, Args&) {
   return s.First().*F;
@@ -128,6 +149,10 @@ std::vector<Member> ShapeMembers() {
       .Read(L"WrapFormat", "",
             [](ShapeObj& s, Args&) {
               return Format(s, s.targets, "WrapFormat", WrapMembers(), "WrapFormat");
+            })
+      .Read(L"ConnectorFormat", "",
+            [](ShapeObj& s, Args&) {
+              return Format(s, s.targets, "ConnectorFormat", ConnectorMembers(), "ConnectorFormat");
             })
       .Method(L"ZOrder", "l",
               [](ShapeObj& s, Args& a) -> Value {
@@ -305,6 +330,13 @@ const std::vector<Member>& ShapesObj::Members() const {
                   [](ShapesObj& s, Args& a) {
                     return Added(s, word::msoAutoShape, AsFloat(a[1]), AsFloat(a[2]), AsFloat(a[3]),
                                  AsFloat(a[4]));
+                  })
+          .Method(L"AddConnector", "lffff",
+                  [](ShapesObj& s, Args& a) {
+                    float x1 = AsFloat(a[1]), y1 = AsFloat(a[2]), x2 = AsFloat(a[3]),
+                          y2 = AsFloat(a[4]);
+                    return Added(s, word::msoAutoShape, std::min(x1, x2), std::min(y1, y2),
+                                 std::abs(x2 - x1), std::abs(y2 - y1));
                   })
           .Method(L"AddTextbox", "lffff|o",
                   [](ShapesObj& s, Args& a) {

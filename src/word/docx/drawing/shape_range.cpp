@@ -42,7 +42,8 @@ AnchorRange::AnchorRange(DocxHost& host, std::vector<pugi::xml_node> anchors)
       line_(shapes_),
       fill_(shapes_),
       textFrame_(shapes_),
-      wrapFormat_(shapes_) {}
+      wrapFormat_(shapes_),
+      connector_(shapes_) {}
 
 void AnchorRange::EachAnchor(const std::function<void(pugi::xml_node)>& edit) {
   for (pugi::xml_node anchor : shapes_.Anchors()) edit(anchor);

@@ -2,6 +2,7 @@
 // Shape and ShapeRange of the .docx engine: one class over a list of anchors,
 // a Shape being a range of one.
 
+#include "word/docx/drawing/connector.h"
 #include "word/docx/drawing/formats.h"
 #include "word/docx/drawing/shape_set.h"
 #include "word/shapes.h"
@@ -30,6 +31,7 @@ class AnchorRange : public ShapeRange {
   FillFormat& Fill() override { return fill_; }
   word::TextFrame& TextFrame() override { return textFrame_; }
   word::WrapFormat& WrapFormat() override { return wrapFormat_; }
+  word::ConnectorFormat& ConnectorFormat() override { return connector_; }
   void ZOrder(MsoZOrderCmd command) override;
   void Select(bool replace = true) override;
   void SetRelativeHorizontalPosition(WdRelativeHorizontalPosition to) override;
@@ -42,6 +44,9 @@ class AnchorRange : public ShapeRange {
   std::unique_ptr<Shape> Item(long index) override;
   std::unique_ptr<Shape> Group() override;
 
+  // The first anchor, for a connector attached to this shape.
+  pugi::xml_node FirstAnchor() const { return shapes_.First(); }
+
  private:
   void EachAnchor(const std::function<void(pugi::xml_node)>& edit);
 
@@ -50,6 +55,7 @@ class AnchorRange : public ShapeRange {
   DocxFillFormat fill_;
   DocxTextFrame textFrame_;
   DocxWrapFormat wrapFormat_;
+  DocxConnectorFormat connector_;
 };
 
 // Moves the anchors' shapes into one new group anchored where the first one

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "word/docx/drawing/anchor.h"
+#include "word/docx/drawing/connector.h"
 #include "word/docx/drawing/markup.h"
 #include "word/docx/drawing/path_shape.h"
 #include "word/docx/drawing/shape_range.h"
@@ -51,12 +52,21 @@ class DocxShapes : public word::Shapes {
     return Add(frame, LineWsp(frame, endX < beginX, endY < beginY), u"Line");
   }
 
+  std::unique_ptr<Shape> AddConnector(MsoConnectorType type, float beginX, float beginY, float endX,
+                                      float endY) override {
+    if (type != msoConnectorStraight && type != msoConnectorElbow) throw InvalidArgument();
+    const Frame frame = FrameOfPoints(std::fmin(beginX, endX), std::fmin(beginY, endY),
+                                      std::fabs(endX - beginX), std::fabs(endY - beginY));
+    return Add(frame, ConnectorWsp(type, frame, endX < beginX, endY < beginY),
+               type == msoConnectorElbow ? u"Elbow Connector" : u"Straight Connector");
+  }
+
   std::unique_ptr<Shape> AddShape(MsoAutoShapeType type, float left, float top, float width,
                                   float height) override {
+    const PresetOfType* preset = PresetOf(type);
+    if (!preset) throw InvalidArgument();
     const Frame frame = FrameOfPoints(left, top, width, height);
-    if (type == msoShapeRectangle) return Add(frame, PresetWsp("rect", frame), u"Rectangle");
-    if (type == msoShapeOval) return Add(frame, PresetWsp("ellipse", frame), u"Oval");
-    throw InvalidArgument();
+    return Add(frame, PresetWsp(preset->preset, frame), preset->namePrefix);
   }
 
   std::unique_ptr<Shape> AddTextbox(MsoTextOrientation, float left, float top, float width,

@@ -1,0 +1,7 @@
+#!/usr/bin/env bash
+# A flow chart of the absolute value, its connectors attached to the shapes.
+set -euo pipefail
+config="$(mktemp -u).db"
+trap 'rm -f "$config"' EXIT
+"$LP" kt --doc "$DOC" --config "$config" --select "【流程图】" \
+  --set txtSteps=$'输入 x\nx≥0？\n否：y=-x\ny=x\n输出 y' --click cmdOK --click cmdExit
