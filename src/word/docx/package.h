@@ -23,8 +23,8 @@ class Package {
   // Throws DocxFileError for anything that is not a readable zip.
   static Package FromBytes(std::string bytes);
   static Package Empty();
-  // The same parts, written ones included, as a package of its own that the
-  // copy's writes leave the original untouched; the file's bytes are shared.
+  // The same parts, written ones included, as a package of its own: writing
+  // to the copy leaves this package as it is; the file's bytes are shared.
   Package Copy() const;
 
   bool Has(const std::string& part) const;
