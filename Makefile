@@ -7,7 +7,7 @@ SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
 # Everything the build, the tests, the demo and the benchmarks need, from Debian.
 PACKAGES := build-essential cmake ninja-build pkg-config \
-  qt6-base-dev qt6-qpa-plugins libsqlite3-dev sqlite3 libzip-dev libpugixml-dev libpng-dev \
+  qt6-base-dev qt6-qpa-plugins libsqlite3-dev sqlite3 libzip-dev zlib1g-dev libpugixml-dev libpng-dev \
   libgtest-dev libgmock-dev \
   libjpeg-turbo-progs libjpeg62-turbo-dev libmuparser-dev \
   libxml2-utils poppler-utils libreoffice-writer-nogui fonts-wqy-zenhei unzip python3 python3-docx \

@@ -5,12 +5,14 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
+#include <ctime>
 #include <fstream>
 #include <memory>
 #include <stdexcept>
 
 #include "word/docx/document_file.h"
 #include "word/docx/docx_error.h"
+#include "word/docx/zip_writer.h"
 
 namespace word::docx {
 namespace {
@@ -49,28 +51,37 @@ std::string ReadEntry(zip_t* z, zip_int64_t index) {
   return data;
 }
 
-// A part libzip refuses leaves nothing behind: the error goes up to SaveTo.
-void Check(bool ok) {
-  if (!ok) throw std::runtime_error("zip");
+// The entry's bytes as the archive holds them, compressed or not.
+StoredEntry StoredEntryOf(zip_t* z, const std::string& name, std::time_t now) {
+  const zip_int64_t index = zip_name_locate(z, name.c_str(), 0);
+  zip_stat_t st;
+  if (index < 0 || zip_stat_index(z, index, 0, &st) != 0) throw DocxFileError(kDamaged);
+  const zip_uint64_t needed =
+      ZIP_STAT_SIZE | ZIP_STAT_COMP_SIZE | ZIP_STAT_CRC | ZIP_STAT_COMP_METHOD;
+  if ((st.valid & needed) != needed || st.comp_size > kMaxPartSize ||
+      (st.comp_method != ZIP_CM_STORE && st.comp_method != ZIP_CM_DEFLATE) ||
+      ((st.valid & ZIP_STAT_ENCRYPTION_METHOD) && st.encryption_method != ZIP_EM_NONE))
+    throw DocxFileError(kDamaged);
+  StoredEntry e{name,
+                st.comp_method,
+                st.crc,
+                st.size,
+                std::string(st.comp_size, '\0'),
+                (st.valid & ZIP_STAT_MTIME) ? st.mtime : now};
+  zip_file_t* f = zip_fopen_index(z, index, ZIP_FL_COMPRESSED);
+  if (!f) throw DocxFileError(kDamaged);
+  const zip_int64_t got =
+      e.compressed.empty() ? 0 : zip_fread(f, e.compressed.data(), st.comp_size);
+  zip_fclose(f);
+  if (got != static_cast<zip_int64_t>(st.comp_size)) throw DocxFileError(kDamaged);
+  return e;
 }
 
-void PutPart(zip_t* z, const std::string& name, const std::string& bytes) {
-  zip_source_t* src = zip_source_buffer(z, bytes.data(), bytes.size(), 0);
-  Check(src != nullptr);
-  zip_int64_t index = zip_name_locate(z, name.c_str(), ZIP_FL_NOCASE);
-  if (index >= 0) {
-    if (zip_file_replace(z, index, src, 0) != 0) {
-      zip_source_free(src);
-      Check(false);
-    }
-  } else {
-    index = zip_file_add(z, name.c_str(), src, ZIP_FL_ENC_UTF_8);
-    if (index < 0) zip_source_free(src);
-    Check(index >= 0);
-  }
-  // The fastest level: shape-heavy parts repeat themselves so much that the
-  // default level spends most of a save searching matches for little gain.
-  zip_set_file_compression(z, index, ZIP_CM_DEFLATE, 1);
+bool SameName(const std::string& a, const std::string& b) {
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+           return std::tolower(static_cast<unsigned char>(x)) ==
+                  std::tolower(static_cast<unsigned char>(y));
+         });
 }
 
 }  // namespace
@@ -155,30 +166,30 @@ void Package::SaveTo(const std::filesystem::path& file) const {
   ReplaceFile(temp, target);
 }
 
+// The entries keep their order; a part written anew takes the place of the
+// entry it replaces, and parts new to the package come last.
 bool Package::WriteZip(const std::filesystem::path& temp) const {
-  if (original_) {
-    std::ofstream out(temp, std::ios::binary);
-    out.write(original_->data(), static_cast<std::streamsize>(original_->size()));
-    if (!out.flush()) return false;
-  }
-  int error = 0;
-  zip_t* z = zip_open(temp.string().c_str(), original_ ? 0 : ZIP_CREATE | ZIP_TRUNCATE, &error);
-  if (!z) return false;
-  try {
-    for (const std::string& name : removed_) {
-      const zip_int64_t index = zip_name_locate(z, name.c_str(), 0);
-      if (index >= 0) Check(zip_delete(z, static_cast<zip_uint64_t>(index)) == 0);
+  const std::time_t now = std::time(nullptr);
+  ZipWriter zip(now);
+  std::vector<const std::string*> placed;
+  for (const std::string& name : names_) {
+    auto written = std::find_if(written_.begin(), written_.end(),
+                                [&](const auto& part) { return SameName(part.first, name); });
+    if (written == written_.end()) {
+      zip.AddStored(StoredEntryOf(reader_.get(), name, now));
+      continue;
     }
-    for (const auto& [name, bytes] : written_) PutPart(z, name, bytes);
-  } catch (const std::runtime_error&) {
-    zip_discard(z);
-    return false;
+    zip.AddDeflated(name, written->second);
+    placed.push_back(&written->first);
   }
-  if (zip_close(z) != 0) {
-    zip_discard(z);
-    return false;
-  }
-  return true;
+  for (const auto& [name, bytes] : written_)
+    if (std::find(placed.begin(), placed.end(), &name) == placed.end())
+      zip.AddDeflated(name, bytes);
+  std::string archive;
+  if (!zip.Finish(archive)) return false;
+  std::ofstream out(temp, std::ios::binary | std::ios::trunc);
+  out.write(archive.data(), static_cast<std::streamsize>(archive.size()));
+  return static_cast<bool>(out.flush());
 }
 
 std::string RelsPartOf(const std::string& part) {
