@@ -10,10 +10,6 @@
 namespace word::docx {
 namespace {
 
-bool Named(pugi::xml_node n, const char* name) {
-  return !std::strcmp(n.name(), name);
-}
-
 // Moves the element's children before it and removes it.
 void Unwrap(pugi::xml_node element) {
   pugi::xml_node parent = element.parent();
@@ -108,10 +104,11 @@ long UnwrapTextHyperlinks(pugi::xml_node root,
 long RemoveShapeHyperlinks(pugi::xml_node root) {
   long done = 0;
   auto linked = [](pugi::xml_node n) {
-    return Named(n, "a:hlinkClick") || Named(n, "a:hlinkHover") ||
-           (!std::strncmp(n.name(), "v:", 2) && n.attribute("href"));
+    const char* name = n.name();
+    if (name[0] == 'v' && name[1] == ':') return static_cast<bool>(n.attribute("href"));
+    return name[0] == 'a' && (Named(n, "a:hlinkClick") || Named(n, "a:hlinkHover"));
   };
-  for (pugi::xml_node n : Descendants(root, linked)) {
+  for (pugi::xml_node n : NodesBelow(root, linked)) {  // only elements bear such names
     if (n.name()[0] == 'a')
       n.parent().remove_child(n);  // DrawingML: the link is an element
     else

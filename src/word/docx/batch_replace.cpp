@@ -8,6 +8,7 @@
 
 #include "word/docx/batch_edits.h"
 #include "word/docx/field_runs.h"
+#include "word/docx/xml_part.h"
 
 namespace word::docx {
 namespace {
@@ -19,10 +20,6 @@ struct Piece {
   size_t start = 0;
   std::string text;
 };
-
-bool Named(pugi::xml_node n, const char* name) {
-  return !std::strcmp(n.name(), name);
-}
 
 // The text pieces of a paragraph, not descending into text boxes (their
 // paragraphs are read on their own) nor properties.

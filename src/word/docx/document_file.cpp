@@ -45,9 +45,10 @@ bool Exists(const fs::path& file) {
   return fs::exists(fs::symlink_status(file, error));
 }
 
+// Seeded once per thread: a batch names a temporary file for every save.
 std::string RandomSuffix() {
-  std::random_device rd;
-  return std::to_string(rd() % 1000000);
+  thread_local std::mt19937 random{std::random_device{}()};
+  return std::to_string(random() % 1000000);
 }
 
 #ifndef _WIN32
@@ -99,12 +100,14 @@ void WriteInPlace(const fs::path& built, const fs::path& target) {
   fs::copy_file(target, backup, error);
   if (error) throw DocxFileError(CannotSave(target));
   SyncFile(backup);
-  std::ifstream in(built, std::ios::binary);
-  const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-  std::ofstream out(target, std::ios::binary | std::ios::trunc);
-  out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  out.close();
-  if (!in || !out) {
+  const std::optional<std::string> bytes = ReadWholeFile(built);
+  std::ofstream out;
+  if (bytes) {
+    out.open(target, std::ios::binary | std::ios::trunc);
+    out.write(bytes->data(), static_cast<std::streamsize>(bytes->size()));
+    out.close();
+  }
+  if (!bytes || !out) {
     fs::copy_file(backup, target, fs::copy_options::overwrite_existing, error);
     if (error)
       throw DocxFileError("文件无法保存：" + Shown(target) + "，原文件的副本在 " + Shown(backup) +
@@ -118,6 +121,15 @@ void WriteInPlace(const fs::path& built, const fs::path& target) {
 }
 
 }  // namespace
+
+std::optional<std::string> ReadWholeFile(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary | std::ios::ate);
+  if (!in) return std::nullopt;
+  std::string bytes(static_cast<size_t>(in.tellg()), '\0');
+  in.seekg(0);
+  if (!in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) return std::nullopt;
+  return bytes;
+}
 
 std::string CannotSave(const fs::path& file) {
   return "文件无法保存：" + Shown(file) + "，文档没有改动。";

@@ -3,6 +3,7 @@
 // and how new bytes replace it without ever leaving it half written.
 
 #include <filesystem>
+#include <optional>
 #include <string>
 
 namespace word::docx {
@@ -10,6 +11,9 @@ namespace word::docx {
 // The file a path names once symbolic links are followed; the path itself
 // when it does not exist yet.
 std::filesystem::path ResolveLinks(const std::filesystem::path& file);
+
+// The file's bytes; nullopt when it cannot be read.
+std::optional<std::string> ReadWholeFile(const std::filesystem::path& file);
 
 // Throws DocxFileError (a Chinese message naming the file) when the document
 // cannot be written: no write permission, another program holds it open

@@ -1,7 +1,6 @@
 #include "word/docx/docx_application.h"
 
 #include <algorithm>
-#include <fstream>
 #include <iterator>
 #include <mutex>
 #include <thread>
@@ -9,6 +8,7 @@
 #include "runtime/utf8.h"
 #include "word/docx/app_state.h"
 #include "word/docx/auto_text.h"
+#include "word/docx/document_file.h"
 #include "word/docx/docx_document.h"
 #include "word/docx/new_document.h"
 #include "word/docx/selection.h"
@@ -41,8 +41,10 @@ class DocxDocuments : public word::Documents {
     opened_.push_back(std::move(document));
     return *opened_.back();
   }
+  // Twice the cores: a save spends part of its time waiting for the disk to
+  // hold the new bytes, and another document's work fills that wait.
   unsigned IndependentOpens() const override {
-    return std::max(1u, std::thread::hardware_concurrency());
+    return 2 * std::max(1u, std::thread::hardware_concurrency());
   }
 
  private:
@@ -119,14 +121,6 @@ class Normal : public word::NormalTemplate {
  private:
   std::unique_ptr<word::AutoTextEntries> entries_ = MakeAutoTextEntries();
 };
-
-std::string FirstBytes(const std::filesystem::path& file, size_t* size) {
-  std::ifstream in(file, std::ios::binary);
-  if (!in) throw DocxFileError("无法读取文件。");
-  std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-  *size = bytes.size();
-  return bytes;
-}
 
 }  // namespace
 
@@ -235,9 +229,10 @@ std::unique_ptr<DocxDocument> LoadDocx(const std::filesystem::path& file) {
   std::error_code error;
   if (std::filesystem::is_directory(file, error))
     throw DocxFileError("这是一个文件夹，不是 .docx 文档。");
-  size_t size = 0;
-  std::string bytes = FirstBytes(file, &size);
-  if (size == 0) throw DocxFileError("文件是空的，不是 .docx 文档。");
+  std::optional<std::string> read = ReadWholeFile(file);
+  if (!read) throw DocxFileError("无法读取文件。");
+  std::string bytes = std::move(*read);
+  if (bytes.empty()) throw DocxFileError("文件是空的，不是 .docx 文档。");
   if (bytes.compare(0, 4, "\xD0\xCF\x11\xE0") == 0) {
     bool encrypted = bytes.find(std::string("E\0n\0c\0r\0y\0p\0t\0e\0d\0P\0a\0c\0k\0a\0g\0e",
                                             31)) != std::string::npos;

@@ -43,7 +43,7 @@ long DocxDocument::EditMain(const std::function<long(pugi::xml_node)>& edit) {
   long done = edit(xml_);
   if (done == 0) return 0;
   MarkChanged();
-  selection_->SetPlace(*main_, 0, 0);
+  if (selection_) selection_->SetPlace(*main_, 0, 0);
   return done;
 }
 

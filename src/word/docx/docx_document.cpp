@@ -130,16 +130,20 @@ DocxDocument::DocxDocument(Package package, std::filesystem::path file)
   if (!ParseXml(*bytes, xml_)) throw DocxFileError("文件已损坏：正文无法读取。");
   pugi::xml_node body = xml_.child("w:document").child("w:body");
   if (!body) throw DocxFileError("文件不是 Word 文档：正文中没有内容部分。");
-  tracksRevisions_ =
-      settings_->TracksRevisions() || settings_->EnforcedProtection() == "trackedChanges";
   revisionAuthor_ = DefaultAuthor();
   main_ = std::make_shared<Story>(body, *this);
   fieldsPlace_ = MakePlace(*main_, 0, 0);
   fields_ = std::make_unique<RangeFields>(fieldsPlace_, true);
-  RestoreCaret();
 }
 
 DocxDocument::~DocxDocument() = default;
+
+bool DocxDocument::TracksRevisions() {
+  if (!tracksRevisions_)
+    tracksRevisions_ =
+        settings_->TracksRevisions() || settings_->EnforcedProtection() == "trackedChanges";
+  return *tracksRevisions_;
+}
 
 const StyleSheet& DocxDocument::Styles() const {
   if (!stylesLoaded_) LoadStyles();
@@ -162,6 +166,11 @@ void DocxDocument::LoadStyles() const {
   load(stylesPart, stylesXml_);
   load(themePart, themeXml_);
   styles_.Load(stylesXml_.child("w:styles"), themeXml_.child("a:theme"));
+}
+
+DocxSelection& DocxDocument::Selection() {
+  if (!selection_) RestoreCaret();
+  return *selection_;
 }
 
 void DocxDocument::RestoreCaret() {
@@ -192,7 +201,7 @@ void DocxDocument::RemoveCaretMarkers() {
 }
 
 void DocxDocument::StoreCaret() {
-  if (&selection_->CurrentStory() != main_.get()) return;
+  if (&Selection().CurrentStory() != main_.get()) return;
   auto caret = std::make_pair(selection_->Start(), selection_->End());
   if (!changed_ && storedCaret_ == caret) return;
   long id = 0;
@@ -217,7 +226,7 @@ bool DocxDocument::Dirty() const {
 // Between two runs on a file nobody sees a highlight to click away: the next
 // run continues behind what this one produced, unless told to select.
 bool DocxDocument::SaveIfChanged() {
-  if (&selection_->CurrentStory() == main_.get()) selection_->Collapse(wdCollapseEnd);
+  if (&Selection().CurrentStory() == main_.get()) selection_->Collapse(wdCollapseEnd);
   StoreCaret();
   if (!Dirty()) return false;
   SaveTo(file_);
@@ -240,9 +249,13 @@ Text DocxDocument::FullName() const {
 }
 
 Place DocxDocument::MakePlace(Story& story, long start, long end) {
-  long length = story.Length();
-  start = std::clamp(start, 0L, length);
-  end = std::clamp(end, start, length);
+  start = std::max(start, 0L);
+  end = std::max(end, start);
+  if (end > 0) {  // the story's start needs no layout
+    const long length = story.Length();
+    start = std::min(start, length);
+    end = std::min(end, length);
+  }
   return Place{this, story.shared_from_this(), story.Track(start, end)};
 }
 
@@ -283,7 +296,7 @@ PageGeometry DocxDocument::Geometry() const {
 }
 
 std::pair<long, long> DocxDocument::CaretPage() {
-  long pos = &selection_->CurrentStory() == main_.get() ? selection_->Start() : 0;
+  long pos = &Selection().CurrentStory() == main_.get() ? selection_->Start() : 0;
   CaretEstimate caret = EstimateCaret(main_->Index(), Styles(), Geometry(), pos);
   return {caret.pageStart, std::max(caret.pageStart, caret.pageEnd)};
 }
@@ -387,7 +400,7 @@ void DocxDocument::SetOpenedBy(std::function<void(DocxDocument*)> onClose) {
 pugi::xml_node DocxDocument::CaretParagraph() {
   const StoryIndex& ix = main_->Index();
   if (ix.length == 0) return {};
-  long pos = &selection_->CurrentStory() == main_.get() ? selection_->Start() : 0;
+  long pos = &Selection().CurrentStory() == main_.get() ? selection_->Start() : 0;
   size_t mark = ix.ParagraphOf(std::min(pos, ix.length - 1));
   return ix.segments[mark].kind == SegKind::RowEnd ? pugi::xml_node() : ix.segments[mark].node;
 }
@@ -427,7 +440,8 @@ void DocxDocument::Removing(Story& story, long pos, pugi::xml_node node) {
   for (const pugi::xpath_node& x : node.select_nodes("descendant-or-self::w:txbxContent")) {
     auto box = boxes_.find(x.node().internal_object());
     if (box == boxes_.end()) continue;
-    if (&selection_->CurrentStory() == box->second.get()) selection_->SetPlace(story, pos, pos);
+    if (selection_ && &selection_->CurrentStory() == box->second.get())
+      selection_->SetPlace(story, pos, pos);
     box->second->Drop();
     boxes_.erase(box);
   }

@@ -100,7 +100,7 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   bool ShowsCode(pugi::xml_node beginFldChar) const override;
   void StoryChanged() override { changed_ = true; }
   void Removing(Story& story, long pos, pugi::xml_node node) override;
-  bool TracksRevisions() override { return tracksRevisions_; }
+  bool TracksRevisions() override;
   void StampRevision(pugi::xml_node change) override;
   std::string RevisionAuthor() const override { return revisionAuthor_; }
 
@@ -109,7 +109,9 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   // The editing protection the document enforces; empty when none.
   std::string EnforcedProtection() { return settings_->EnforcedProtection(); }
 
-  DocxSelection& Selection() { return *selection_; }
+  // Made from the stored caret when first asked for: a document that is
+  // only edited and saved, as in a batch, never lays out its text for it.
+  DocxSelection& Selection();
   Story& MainStory() { return *main_; }
   Place MakePlace(Story& story, long start, long end);
   // Read at first use: the batch clean-ups of a folder never need them.
@@ -179,7 +181,7 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   LiveAnchors liveAnchors_;
   std::optional<std::pair<long, long>> storedCaret_;
   unsigned nextDrawingId_ = 0;
-  bool tracksRevisions_ = false;
+  std::optional<bool> tracksRevisions_;  // read from the settings when first asked
   std::string revisionAuthor_;
   long nextRevisionId_ = -1;
   bool changed_ = false;

@@ -1,11 +1,11 @@
 #include "word/docx/embedded_fonts.h"
 
 #include <cstdio>
-#include <fstream>
 #include <iterator>
 #include <random>
 #include <set>
 
+#include "word/docx/document_file.h"
 #include "word/docx/relationships.h"
 #include "word/docx/xml_part.h"
 
@@ -45,11 +45,6 @@ std::string NewFontKey() {
   std::snprintf(key, sizeof key, "{%08X-%04X-%04X-%04X-%04X%08X}", random(), random() & 0xFFFF,
                 random() & 0xFFFF, random() & 0xFFFF, random() & 0xFFFF, random());
   return key;
-}
-
-std::string ReadFile(const std::filesystem::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
 
 std::string FreeFontPart(const Package& package) {
@@ -130,7 +125,8 @@ void EmbedUsedFonts(Package& package, const std::string& mainPart, const pugi::x
         PutRelationship(package, tablePart, "", kRelationshipsNs + "/font", target, false);
     if (id.empty()) return;
     AddContentTypeOverride(package, fontPart, kFontContentType);
-    package.Write(fontPart, ObfuscateFont(ReadFile(fontFolder / (name + ".ttf")), key));
+    package.Write(fontPart,
+                  ObfuscateFont(ReadWholeFile(fontFolder / (name + ".ttf")).value_or(""), key));
     AddEmbedRegular(font, id, key);
   }
   package.Write(tablePart, SerializeXml(table));

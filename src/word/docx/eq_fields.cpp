@@ -19,10 +19,6 @@ const char* const kStrictWordNs = "http://purl.oclc.org/ooxml/wordprocessingml/m
 const char* const kStrictMathNs = "http://purl.oclc.org/ooxml/officeDocument/math";
 const char* const kWordNs = "http://schemas.openxmlformats.org/wordprocessingml/2006/main";
 
-bool Named(pugi::xml_node n, const char* name) {
-  return !std::strcmp(n.name(), name);
-}
-
 // A character of the run: its typeface, italic, bold and size.
 CodeCharacter Look(const StyleSheet& styles, pugi::xml_node run, pugi::xml_node paragraph) {
   const CharFormat f = styles.Effective(run, paragraph);

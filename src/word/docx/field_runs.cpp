@@ -11,7 +11,7 @@ std::vector<FieldRuns> OutermostFields(pugi::xml_node root) {
   std::vector<FieldRuns> fields;
   int depth = 0;
   for (pugi::xml_node run : DescendantsNamed(root, {"w:r", "w:fldSimple"})) {
-    if (!std::strcmp(run.name(), "w:fldSimple")) {
+    if (Named(run, "w:fldSimple")) {
       if (depth > 0) continue;
       FieldRuns f;
       f.instruction = run.attribute("w:instr").value();
@@ -21,15 +21,15 @@ std::vector<FieldRuns> OutermostFields(pugi::xml_node root) {
       continue;
     }
     for (pugi::xml_node c = run.first_child(); c; c = c.next_sibling()) {
-      const std::string name = c.name();
-      const std::string type = c.attribute("w:fldCharType").value();
-      if (name == "w:fldChar" && type == "begin" && depth++ == 0) fields.emplace_back();
+      const bool mark = Named(c, "w:fldChar"), code = Named(c, "w:instrText");
+      const std::string type = mark ? c.attribute("w:fldCharType").value() : "";
+      if (type == "begin" && depth++ == 0) fields.emplace_back();
       if (depth == 0) continue;
       FieldRuns& f = fields.back();
       if (f.runs.empty() || f.runs.back() != run) f.runs.push_back(run);
-      if (depth == 1 && (name == "w:fldChar" || name == "w:instrText")) f.marks.push_back(c);
-      if (depth == 1 && name == "w:instrText") f.instruction += c.text().get();
-      if (name == "w:fldChar" && type == "end") --depth;
+      if (depth == 1 && (mark || code)) f.marks.push_back(c);
+      if (depth == 1 && code) f.instruction += c.text().get();
+      if (type == "end") --depth;
     }
   }
   return fields;

@@ -4,12 +4,12 @@
 
 #include <algorithm>
 #include <cstring>
-#include <fstream>
 #include <iterator>
 #include <map>
 #include <sstream>
 
 #include "runtime/utf8.h"
+#include "word/docx/document_file.h"
 #include "word/docx/docx_error.h"
 #include "word/docx/range_capture.h"
 #include "word/docx/relationships.h"
@@ -231,10 +231,9 @@ void DocxDocument::ExportFragment(const Place& place, const Text& fileName) {
 }
 
 void DocxDocument::InsertFile(const Place& place, const Text& fileName) {
-  std::ifstream in(PathOf(fileName), std::ios::binary);
-  if (!in) throw FileNotFound();
-  const Package source = Package::FromBytes(
-      std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()));
+  std::optional<std::string> file = ReadWholeFile(PathOf(fileName));
+  if (!file) throw FileNotFound();
+  const Package source = Package::FromBytes(std::move(*file));
   const std::string sourcePart = MainDocumentPart(source);
   pugi::xml_document sourceXml;
   auto bytes = source.Read(sourcePart);

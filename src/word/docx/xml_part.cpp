@@ -1,7 +1,5 @@
 #include "word/docx/xml_part.h"
 
-#include <sstream>
-
 namespace word::docx {
 
 bool ParseXml(const std::string& bytes, pugi::xml_document& doc) {
@@ -16,9 +14,14 @@ std::string SerializeXml(pugi::xml_document& doc) {
     if (n.type() != pugi::node_declaration) continue;
     if (auto enc = n.attribute("encoding")) enc.set_value("UTF-8");
   }
-  std::ostringstream out;
+  struct Appender : pugi::xml_writer {
+    std::string text;
+    void write(const void* data, size_t size) override {
+      text.append(static_cast<const char*>(data), size);
+    }
+  } out;
   doc.save(out, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
-  return out.str();
+  return std::move(out.text);
 }
 
 }  // namespace word::docx
