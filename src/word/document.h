@@ -93,8 +93,9 @@ class Document {
   // line (BaseLineAlignment); with `unshift` raised or lowered formulas are
   // put back on the line as well.
   virtual long AlignFormulas(bool unshift) = 0;
-  // Each EQ field of the body and its text boxes that `convert` makes an
-  // equation of is replaced by that equation, in its place in the text.
+  // Each EQ field of the body, the headers, footers and notes, and their text
+  // boxes, that `convert` makes an equation of is replaced by that equation,
+  // in its place in the text.
   virtual EqConversion ConvertEqFields(const EqFieldConverter& convert) = 0;
   virtual void Save() = 0;
   virtual void SaveAs(const Text& path) = 0;

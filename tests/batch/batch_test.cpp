@@ -14,7 +14,10 @@
 #include "batch/document_operations.h"
 #include "batch/file_walk.h"
 #include "word/docx/batch_edits.h"
+#include "word/docx/document_file.h"
 #include "word/docx/docx_application.h"
+#include "word/docx/new_document.h"
+#include "word/docx/package.h"
 #include "word/fake/fake_word.h"
 
 namespace lp::batch {
@@ -141,6 +144,57 @@ TEST(DocumentOperations, EqFieldsLeftAsTheyWereAreListed) {
   s.withLeftFields.push_back({t.path / "eq.docx", FileResult::kDone, {}, {}, left});
   EXPECT_EQ(LeftFieldsLine(s).rfind(u"未能转为Word公式的EQ域4个：eq.docx（EQ A \\d", 0), 0u);
   EXPECT_EQ(LeftFieldsLine(BatchSummary()), u"");
+}
+
+// A new document whose header, footer and footnotes each hold one EQ field.
+fs::path WithFieldsOutsideTheBody(const fs::path& file, const std::string& footerCode) {
+  const std::string w = R"(xmlns:w="http://schemas.openxmlformats.org/wordprocessingml/2006/main")";
+  auto field = [](const std::string& code) {
+    return "<w:p><w:r><w:t>甲</w:t></w:r><w:r><w:fldChar w:fldCharType=\"begin\"/></w:r><w:r>"
+           "<w:instrText xml:space=\"preserve\">" +
+           code + "</w:instrText></w:r><w:r><w:fldChar w:fldCharType=\"end\"/></w:r></w:p>";
+  };
+  word::docx::Package p = word::docx::NewDocumentPackage();
+  p.Write("word/header1.xml", "<w:hdr " + w + ">" + field("EQ \\F(1,2)") + "</w:hdr>");
+  p.Write("word/footer1.xml", "<w:ftr " + w + ">" + field(footerCode) + "</w:ftr>");
+  p.Write("word/footnotes.xml", "<w:footnotes " + w + "><w:footnote w:id=\"1\">" +
+                                    field("EQ \\R(3,x)") + "</w:footnote></w:footnotes>");
+  std::string rels = *p.Read("word/_rels/document.xml.rels");
+  const std::string kind = "http://schemas.openxmlformats.org/officeDocument/2006/relationships/";
+  rels.insert(rels.rfind("</Relationships>"), "<Relationship Id=\"rId7\" Type=\"" + kind +
+                                                  "header\" Target=\"header1.xml\"/>"
+                                                  "<Relationship Id=\"rId8\" Type=\"" +
+                                                  kind +
+                                                  "footer\" Target=\"footer1.xml\"/>"
+                                                  "<Relationship Id=\"rId9\" Type=\"" +
+                                                  kind + "footnotes\" Target=\"footnotes.xml\"/>");
+  p.Write("word/_rels/document.xml.rels", rels);
+  p.SaveTo(file);
+  return file;
+}
+
+// Fields outside the body convert as those in it do; what cannot convert
+// there is listed and its part left byte for byte.
+TEST(DocumentOperations, EqFieldsOfHeadersFootersAndNotesConvertToo) {
+  TempFolder t;
+  const fs::path file = WithFieldsOutsideTheBody(t.path / "notes.docx", "EQ \\F(1");
+  const std::string footer =
+      *word::docx::Package::FromBytes(*word::docx::ReadWholeFile(file)).Read("word/footer1.xml");
+  auto app = word::docx::OpenDocx(file);
+  BatchChoice c;
+  c.tab = 1;
+  c.eqToOmml = true;
+  EXPECT_EQ(RunOperations(app->ActiveDocument(), c), std::vector<std::u16string>{u"EQ \\F(1"});
+  app->ActiveDocument().Save();
+  const word::docx::Package saved =
+      word::docx::Package::FromBytes(*word::docx::ReadWholeFile(file));
+  for (const char* part : {"word/header1.xml", "word/footnotes.xml"}) {
+    const std::string xml = *saved.Read(part);
+    EXPECT_EQ(xml.find("fldChar"), std::string::npos) << part;
+    EXPECT_NE(xml.find("xmlns:m="), std::string::npos) << part;
+    EXPECT_NE(xml.find("<w:t>甲</w:t></w:r><m:oMath>"), std::string::npos) << part;
+  }
+  EXPECT_EQ(saved.Read("word/footer1.xml"), footer);
 }
 
 pugi::xml_document Parse(const char* body) {

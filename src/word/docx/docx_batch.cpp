@@ -117,10 +117,15 @@ long DocxDocument::AlignFormulas(bool unshift) {
 
 EqConversion DocxDocument::ConvertEqFields(const EqFieldConverter& convert) {
   EqConversion result;
-  EditMain([&](pugi::xml_node root) {
-    result = ReplaceEqFields(root, convert, Styles());
-    return result.converted;
-  });
+  auto edit = [&](pugi::xml_node root) {
+    EqConversion part = ReplaceEqFields(root, convert, Styles());
+    result.converted += part.converted;
+    result.unconverted.insert(result.unconverted.end(), part.unconverted.begin(),
+                              part.unconverted.end());
+    return part.converted;
+  };
+  EditMain(edit);
+  EditOtherStories(kOtherStories, edit);
   return result;
 }
 
