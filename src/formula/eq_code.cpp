@@ -1,5 +1,7 @@
 #include "formula/eq_code.h"
 
+#include <algorithm>
+
 namespace lp {
 namespace {
 
@@ -42,7 +44,50 @@ struct Options {
   long columns = 1;
   char16_t open = u'(', close = u')';
   bool bracketsSet = false;
+  char16_t sign = u'∫';  // of an integral: \SU, \PR or the character of \FC and \VC
+  bool beside = false, grows = false;
+  long points = 0;  // of a displacement: forward, or back when negative
+  bool line = false;
 };
+
+bool IsScript(const EqNode& n) {
+  return n.kind == EqKind::kRaised || n.kind == EqKind::kLowered;
+}
+
+// The one character a part is, alone or raised or lowered; 0 if it is more.
+char16_t LoneCharacter(const EqRow& part) {
+  const EqRow* row = &part;
+  if (row->size() == 1 && IsScript(row->front())) row = &row->front().rows[0];
+  return row->size() == 1 && row->front().kind == EqKind::kChar ? row->front().ch : 0;
+}
+
+// The enclosure an overstrike's part draws round the other: the circle,
+// square, triangle or diamond Word's enclosed characters are made of.
+char16_t Enclosure(const EqRow& part) {
+  switch (LoneCharacter(part)) {
+    case u'○':
+    case u'◯':
+      return u'○';
+    case u'□':
+      return u'□';
+    case u'△':
+      return u'△';
+    case u'◇':
+      return u'◇';
+    default:
+      return 0;
+  }
+}
+
+// The text of a part out of the script that only moves it a little: to
+// centre it in its enclosure, or a limit that stands over its sign anyway.
+EqRow Unraised(EqRow part) {
+  if (part.size() == 1 && IsScript(part[0])) {
+    EqRow inner = std::move(part[0].rows[0]);
+    return inner;
+  }
+  return part;
+}
 
 class EqParser {
  public:
@@ -80,7 +125,13 @@ class EqParser {
       const char16_t c = s_[pos_];
       if (depth > 0 && open == 0 && (c == u',' || c == u')')) break;
       if (c == u'\\') {
-        row.push_back(Backslash(depth));
+        EqNode node = Backslash(depth);
+        // EQ draws a script right behind an integral after the integrand, at
+        // its height: the script is the integrand's.
+        if (IsScript(node) && !row.empty() && row.back().kind == EqKind::kNary)
+          row.back().rows[2].push_back(std::move(node));
+        else
+          row.push_back(std::move(node));
         continue;
       }
       if (c == u'(') ++open;
@@ -113,8 +164,10 @@ class EqParser {
     return o;
   }
 
+  // A distance in points; Word writes a small lowering as a negative raise.
   long Number() {
     SkipBlanks();
+    if (At(pos_) == u'-' && IsDigit(At(pos_ + 1))) ++pos_;
     long n = 0;
     bool any = false;
     while (IsDigit(At(pos_)) && n < 1000) {
@@ -131,7 +184,17 @@ class EqParser {
   }
 
   void Option(const std::u16string& word, Options& o) {
-    if (word == u"UP" || word == u"AI" || word == u"DI" || word == u"VS" || word == u"HS") {
+    if (word == u"SU" || word == u"PR" || word == u"FC" || word == u"VC") {
+      o.sign = word == u"SU" ? u'∑' : word == u"PR" ? u'∏' : BracketChar();
+      o.grows = word == u"VC";
+    } else if (word == u"IN") {
+      o.beside = true;
+    } else if (word == u"FO" || word == u"BA") {
+      const long n = std::max(Number(), 0L);
+      o.points = word == u"FO" ? n : -n;
+    } else if (word == u"LI") {
+      o.line = true;
+    } else if (word == u"UP" || word == u"AI" || word == u"DI" || word == u"VS" || word == u"HS") {
       Number();
     } else if (word == u"DO") {
       o.down = true;
@@ -183,8 +246,7 @@ class EqParser {
         n.kind = o.down ? EqKind::kLowered : EqKind::kRaised;
         return n;
       case u'O':
-        n.kind = EqKind::kOverstrike;
-        return n;
+        return Overstrike(std::move(n));
       case u'X':
         if (count != 1) throw EqCodeError("a box holds one part");
         if (o.sides == kTop || o.sides == kBottom)
@@ -209,9 +271,39 @@ class EqParser {
       case u'L':
         n.kind = EqKind::kList;
         return n;
+      case u'I':
+        if (count != 3) throw EqCodeError("an integral has three parts");
+        n.kind = EqKind::kNary;
+        n.rows[0] = Unraised(std::move(n.rows[0]));
+        n.rows[1] = Unraised(std::move(n.rows[1]));
+        n.ch = o.sign;
+        n.besideLimits = o.beside;
+        n.grows = o.grows;
+        return n;
+      case u'D':
+        if (count != 1 || !n.rows[0].empty()) throw EqCodeError("a displacement holds nothing");
+        n.kind = EqKind::kDisplace;
+        n.rows.clear();
+        n.points = static_cast<int>(o.points);
+        n.line = o.line;
+        return n;
       default:
         throw EqCodeError("a switch lumenpad does not convert");
     }
+  }
+
+  // Two parts of which one is an enclosure: the enclosed character;
+  // otherwise the parts printed over each other.
+  static EqNode Overstrike(EqNode n) {
+    n.kind = EqKind::kOverstrike;
+    if (n.rows.size() != 2) return n;
+    const size_t text = Enclosure(n.rows[0]) ? 1 : 0;
+    const char16_t enclosure = Enclosure(n.rows[1 - text]);
+    if (!enclosure || n.rows[text].empty()) return n;
+    n.kind = EqKind::kEnclosed;
+    n.ch = enclosure;
+    n.rows = {Unraised(std::move(n.rows[text]))};
+    return n;
   }
 
   const std::u16string& s_;

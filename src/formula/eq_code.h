@@ -1,8 +1,11 @@
 #pragma once
 // The code of an EQ field read into a tree: the switches lumenpad and Word
 // write (\F fraction, \R radical, \S script with \UP and \DO, \O overstrike,
-// \X box, \B brackets, \A array, \L list) over the characters of the code, each of
-// which remembers where it stood, so that its font can be found again.
+// \X box, \B brackets, \A array, \L list, \I integral, sum or product, \D
+// displacement) over the characters of the code, each of which remembers
+// where it stood, so that its font can be found again. An overstrike of a
+// circle, square, triangle or diamond with a text is the enclosed character
+// Word's own command writes.
 
 #include <stdexcept>
 #include <string>
@@ -27,6 +30,9 @@ enum class EqKind {
   kArray,       // rows: one per element, `columns` to a line
   kBox,         // rows: the boxed text
   kList,        // rows: the listed texts
+  kNary,        // rows: lower limit, upper limit, integrand; ch the sign
+  kDisplace,    // no rows; `points` forward (negative: back), `line` under the gap
+  kEnclosed,    // rows: the enclosed text; ch the enclosure (○, □, △ or ◇)
 };
 
 struct EqNode;
@@ -34,10 +40,14 @@ using EqRow = std::vector<EqNode>;
 
 struct EqNode {
   EqKind kind = EqKind::kChar;
-  char16_t ch = 0;               // kChar
+  char16_t ch = 0;               // kChar; the sign of kNary; the enclosure of kEnclosed
   size_t source = 0;             // kChar: its index in the code
   char16_t open = 0, close = 0;  // kBrackets; 0 draws no bracket
   size_t columns = 1;            // kArray
+  bool besideLimits = false;     // kNary: limits to the right of the sign, not over and under
+  bool grows = false;            // kNary: the sign as tall as the integrand
+  int points = 0;                // kDisplace
+  bool line = false;             // kDisplace
   std::vector<EqRow> rows;
 };
 

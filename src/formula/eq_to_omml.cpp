@@ -1,9 +1,11 @@
 #include "formula/eq_to_omml.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <iterator>
 
+#include "formula/enclosed_characters.h"
 #include "formula/eq_code.h"
 #include "formula/omml_writer.h"
 
@@ -78,6 +80,8 @@ class OmmlBuilder {
         items.push_back({ScriptsOn(items, n, pair ? &row[++i] : nullptr)});
       } else if (n.kind == EqKind::kOverstrike) {
         items.push_back({Overstrike(items, n)});
+      } else if (n.kind == EqKind::kDisplace) {
+        if (Xml gap = Gap(n); !gap.empty()) items.push_back({gap});
       } else if (!Close(items, open, ch)) {
         if (ch == u'(' || ch == u'|') open.push_back(items.size());
         items.push_back({Node(n), ch});
@@ -197,6 +201,15 @@ class OmmlBuilder {
       }
       case EqKind::kBox:
         return omml::BorderBox(Row(n.rows[0]));
+      case EqKind::kNary: {
+        const bool sumOrProduct = n.ch == u'∑' || n.ch == u'∏';
+        const omml::NaryLook look{std::u16string(1, n.ch), sumOrProduct && !n.besideLimits,
+                                  n.grows};
+        return omml::Nary(look, Row(n.rows[0]), Row(n.rows[1]), !n.rows[0].empty(),
+                          !n.rows[1].empty(), Row(n.rows[2]));
+      }
+      case EqKind::kEnclosed:
+        return Enclosed(n);
       case EqKind::kList: {
         Xml list;
         for (size_t i = 0; i < n.rows.size(); ++i)
@@ -218,25 +231,69 @@ class OmmlBuilder {
     return Row(row);
   }
 
-  Xml Char(const EqNode& n) {
-    word::CodeCharacter c =
+  // A character as it shows: its look, and the Unicode character of a
+  // symbol font's one or of a sign the font pass widened.
+  struct Shown {
+    word::CodeCharacter look;
+    char16_t ch;
+    std::u16string font;
+  };
+
+  Shown Show(const EqNode& n) const {
+    const word::CodeCharacter c =
         n.source < code_.size() ? code_[n.source] : word::CodeCharacter{n.ch, {}, false, false, 0};
-    char16_t shown = c.ch;
-    std::u16string font = c.font;
-    if (Named(font, u"symbol")) {
-      shown = SymbolFontCharacter(c.ch);
-      font.clear();
-    } else if (c.ch == 0xF06D && Named(font, u"euclid extra")) {
-      shown = u'∓';
-      font.clear();
+    Shown out{c, c.ch, c.font};
+    if (Named(c.font, u"symbol")) {
+      out = {c, SymbolFontCharacter(c.ch), {}};
+    } else if (c.ch == 0xF06D && Named(c.font, u"euclid extra")) {
+      out = {c, u'∓', {}};
     } else if (char16_t sign = MathSign(c.ch)) {
-      shown = sign;
-      font.clear();
+      out = {c, sign, {}};
     } else if (c.ch >= 0xE000 && c.ch <= 0xF8FF) {
-      shown = 0;  // a private character of a font this converter does not know
+      out.ch = 0;  // a private character of a font this converter does not know
     }
-    if (shown == 0) throw EqCodeError("a character of a symbol font");
-    return omml::Run(std::u16string(1, shown), Style(c, shown), WordProps(font));
+    if (out.ch == 0) throw EqCodeError("a character of a symbol font");
+    return out;
+  }
+
+  Xml RunOf(const Shown& s, const std::u16string& text) const {
+    return omml::Run(text, Style(s.look, s.ch), WordProps(s.font));
+  }
+
+  Xml Char(const EqNode& n) const {
+    const Shown s = Show(n);
+    return RunOf(s, std::u16string(1, s.ch));
+  }
+
+  // A move forward is space: em, en and thin spaces as near the distance as
+  // they come at the formula's size; with \LI a line under it, the blank a
+  // pupil writes in. A move back overlaps, which an equation cannot: the
+  // text just follows.
+  Xml Gap(const EqNode& n) const {
+    const float size = mainSize_ > 0 ? mainSize_ : 10.5f;
+    const long quarters = std::lround(n.points / size * 4);
+    if (quarters <= 0) return {};
+    std::u16string space(static_cast<size_t>(quarters / 4), u'\u2003');
+    if (quarters % 4 >= 2) space += u'\u2002';
+    if (quarters % 2) space += u'\u2009';
+    const Xml run = omml::NormalText(space, WordProps({}));
+    return n.line ? omml::Bar(run, false) : run;
+  }
+
+  // The character in a circle as the one character Unicode has for it (①,
+  // Ⓐ, ㊞); else the text in a box for the square, or the one character
+  // with the combining enclosure for the others.
+  Xml Enclosed(const EqNode& n) {
+    const EqRow& text = n.rows[0];
+    std::u16string chars;
+    for (const EqNode& c : text) chars += c.kind == EqKind::kChar ? Show(c).ch : u'\0';
+    if (char16_t one = EnclosedCharacter(n.ch, chars)) return RunOf(Show(text[0]), {one});
+    if (n.ch == u'□') return omml::BorderBox(Row(text));
+    if (text.size() != 1 || text[0].kind != EqKind::kChar)
+      throw EqCodeError("more than one character in a circle, triangle or diamond");
+    const char16_t mark = n.ch == u'○' ? u'\u20DD' : n.ch == u'◇' ? u'\u20DF' : u'\u20E4';
+    const Shown s = Show(text[0]);
+    return RunOf(s, {s.ch, mark});
   }
 
   std::string WordProps(const std::u16string& font) const {

@@ -21,10 +21,22 @@ Xml Escape(const std::u16string& text) {
   return out;
 }
 
-Xml Run(const std::u16string& text, const std::string& style, const std::string& wordProps) {
-  Xml props = style.empty() ? "" : "<m:rPr><m:sty m:val=\"" + style + "\"/></m:rPr>";
+namespace {
+
+Xml RunWith(const Xml& mathProps, const std::string& wordProps, const std::u16string& text) {
+  Xml props = mathProps.empty() ? "" : "<m:rPr>" + mathProps + "</m:rPr>";
   if (!wordProps.empty()) props += "<w:rPr>" + wordProps + "</w:rPr>";
   return "<m:r>" + props + "<m:t xml:space=\"preserve\">" + Escape(text) + "</m:t></m:r>";
+}
+
+}  // namespace
+
+Xml Run(const std::u16string& text, const std::string& style, const std::string& wordProps) {
+  return RunWith(style.empty() ? "" : "<m:sty m:val=\"" + style + "\"/>", wordProps, text);
+}
+
+Xml NormalText(const std::u16string& text, const std::string& wordProps) {
+  return RunWith("<m:nor/>", wordProps, text);
 }
 
 Xml Join(const std::vector<Xml>& items) {
@@ -95,6 +107,17 @@ Xml Matrix(const std::vector<Xml>& cells, size_t columns) {
 
 Xml BorderBox(const Xml& content) {
   return Wrap("borderBox", Wrap("e", content));
+}
+
+Xml Nary(const NaryLook& look, const Xml& lower, const Xml& upper, bool hasLower, bool hasUpper,
+         const Xml& integrand) {
+  Xml props = "<m:chr m:val=\"" + Escape(look.sign) + "\"/><m:limLoc m:val=\"" +
+              (look.limitsUnderOver ? "undOvr" : "subSup") + "\"/>";
+  props += std::string("<m:grow m:val=\"") + (look.grows ? "1" : "0") + "\"/>";
+  if (!hasLower) props += "<m:subHide m:val=\"1\"/>";
+  if (!hasUpper) props += "<m:supHide m:val=\"1\"/>";
+  return Wrap("nary", Wrap("naryPr", props) + Wrap("sub", lower) + Wrap("sup", upper) +
+                          Wrap("e", integrand));
 }
 
 Xml Math(const Xml& body) {

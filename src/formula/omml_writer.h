@@ -1,7 +1,7 @@
 #pragma once
 // The pieces of an Office Math equation as UTF-8 text, for the converters
 // that write equations (TeX, EQ field codes): runs, fractions, radicals,
-// scripts, bars, accents, delimiters and equation arrays. The m prefix is
+// scripts, bars, accents, delimiters, equation arrays and n-ary signs. The m prefix is
 // the document's math namespace, w the WordprocessingML one.
 
 #include <string>
@@ -17,6 +17,8 @@ Xml Escape(const std::u16string& text);
 // empty for the math default, `wordProps` the inside of a w:rPr or empty.
 Xml Run(const std::u16string& text, const std::string& style = {},
         const std::string& wordProps = {});
+// A run of ordinary text, not math: its spaces keep their width.
+Xml NormalText(const std::u16string& text, const std::string& wordProps = {});
 Xml Join(const std::vector<Xml>& items);
 Xml Wrap(const char* tag, const Xml& inner);
 
@@ -37,6 +39,16 @@ Xml EquationArray(const std::vector<Xml>& rows);
 // A matrix of the cells, `columns` to a line.
 Xml Matrix(const std::vector<Xml>& cells, size_t columns);
 Xml BorderBox(const Xml& content);
+// An integral, sum or product: `sign` the character, its limits under and
+// over it or beside it, growing with the integrand or not; an absent limit
+// is hidden.
+struct NaryLook {
+  std::u16string sign;
+  bool limitsUnderOver = false;
+  bool grows = false;
+};
+Xml Nary(const NaryLook& look, const Xml& lower, const Xml& upper, bool hasLower, bool hasUpper,
+         const Xml& integrand);
 Xml Math(const Xml& body);
 
 }  // namespace lp::omml

@@ -97,6 +97,82 @@ TEST(EqToOmml, EveryConstructLumenpadWrites) {
   }
 }
 
+// The fields Word's own commands write beyond lumenpad's: integrals, sums
+// and products with their limits, displacements, enclosed characters.
+TEST(EqToOmml, WordsOwnFields) {
+  struct Row {
+    const char* name;
+    const char16_t* code;
+    std::vector<const char*> expected;
+  } rows[] = {
+      {"Sum",
+       u"EQ \\i \\su(n=1,5,n)",
+       {"<m:nary><m:naryPr><m:chr m:val=\"∑\"/><m:limLoc m:val=\"undOvr\"/><m:grow m:val=\"0\"/>"
+        "</m:naryPr><m:sub><m:r>",
+        ">5</m:t></m:r></m:sup><m:e><m:r>", ">n</m:t></m:r></m:e></m:nary>"}},
+      {"ProductWithSquaredLimit",
+       u"eq \\i\\pr(i=0,n\\s(2),\\r(i))",
+       {"<m:chr m:val=\"∏\"/><m:limLoc m:val=\"undOvr\"/>", "<m:sup><m:sSup>", "<m:e><m:rad>"}},
+      {"Integral",
+       u"eq \\i(\\r(-3,a),\\f(1,\\r(b)),e\\s(n))",
+       {"<m:chr m:val=\"∫\"/><m:limLoc m:val=\"subSup\"/>", "<m:sub><m:rad><m:deg>", "<m:sup><m:f>",
+        "<m:e><m:sSup>"}},
+      {"LimitsBeside",
+       u"EQ \\i \\su \\in( tan x, \\s \\up2(sec x), \\b(\\r(3) )\\s \\up4(t)  dt)",
+       {"<m:chr m:val=\"∑\"/><m:limLoc m:val=\"subSup\"/>", "<m:sup><m:r>",
+        ">t</m:t></m:r></m:sup></m:sSup><m:r>"}},
+      {"NoLimitsAndSquareBehind",
+       u"EQ \\i (,,  \\b(\\f(x,x2 + 3x + 2))) \\s \\up10(2)",
+       {"<m:subHide m:val=\"1\"/><m:supHide m:val=\"1\"/></m:naryPr><m:sub></m:sub><m:sup></m:sup>"
+        "<m:e><m:sSup><m:e><m:d>",
+        "</m:sup></m:sSup></m:e></m:nary></m:oMath>"}},
+      {"OwnSignGrowing",
+       u"EQ \\i\\vc\\∮(C,,f)",
+       {"<m:chr m:val=\"∮\"/><m:limLoc m:val=\"subSup\"/><m:grow m:val=\"1\"/><m:supHide"}},
+      {"OwnSignFixed", u"EQ \\i\\fc\\∯(,,f)", {"<m:chr m:val=\"∯\"/>", "<m:grow m:val=\"0\"/>"}},
+      {"BlankWithLine",
+       u"EQ A \\d \\fo30 \\li() B",
+       {">A</m:t></m:r><m:bar><m:barPr><m:pos m:val=\"bot\"/></m:barPr><m:e><m:r><m:rPr><m:nor/>"
+        "</m:rPr><w:rPr><w:sz w:val=\"21\"/></w:rPr><m:t xml:space=\"preserve\">\u2003\u2003\u2002"
+        "\u2009</m:t></m:r></m:e></m:bar><m:r>"}},
+      {"Space",
+       u"EQ a\\d\\fo5()b",
+       {">a</m:t></m:r><m:r><m:rPr><m:nor/></m:rPr><w:rPr><w:sz w:val=\"21\"/></w:rPr><m:t "
+        "xml:space=\"preserve\">\u2002</m:t></m:r><m:r>"}},
+      {"TooSmallToShow", u"EQ a\\d\\fo1()b", {">a</m:t></m:r><m:r><m:rPr><m:sty m:val=\"i\"/>"}},
+      {"MoveBackOverlapsTheScript",
+       u"eq V\\d\\ba8()\\s\\up9(re)\\d\\ba1()isionary",
+       {"<m:oMath><m:sSup><m:e><m:r>", ">V</m:t></m:r></m:e><m:sup>", "</m:sup></m:sSup><m:r>"}},
+      {"CircledNumber", u"eq \\o\\ac(○,3)", {">③</m:t>"}},
+      {"CircledTwenty", u"eq \\o\\ac(◯,20)", {">⑳</m:t>"}},
+      {"CircledFifty", u"eq \\o\\ac(○,50)", {">㊿</m:t>"}},
+      {"CircledRaisedLetter", u"eq \\o\\ac(○,\\s\\up1(A))", {">Ⓐ</m:t>"}},
+      {"CircledSeal",
+       u"eq \\o\\ac(○,印)",
+       {"<m:oMath><m:r><w:rPr><w:sz w:val=\"21\"/></w:rPr><m:t "
+        "xml:space=\"preserve\">㊞</m:t></m:r></m:oMath>"}},
+      {"CircleSecond", u"eq \\o\\ac(中,\\s\\up-1(○))", {">㊥</m:t>"}},
+      {"CircledOther", u"eq \\o\\ac(○,我)", {">我\u20DD</m:t>"}},
+      {"CircledNumberBeyondFifty", u"eq \\o\\ac(○,7)＋\\o\\ac(○,51)", {"(refused)"}},
+      {"Square",
+       u"eq \\o\\ac(□,12)",
+       {"<m:borderBox><m:e><m:r>", ">2</m:t></m:r></m:e></m:borderBox>"}},
+      {"Triangle", u"eq \\o\\ac(△,1)", {">1\u20E4</m:t>"}},
+      {"Diamond", u"eq \\o\\ac(◇,优)", {">优\u20DF</m:t>"}},
+  };
+  std::string equations;
+  for (const Row& row : rows) {
+    const std::string omml = Convert(row.code);
+    for (const char* part : row.expected)
+      EXPECT_NE(omml.find(part), std::string::npos) << row.name << ": " << omml;
+    if (omml != "(refused)") equations += omml + "\n";
+  }
+  LP_SKIP_WITHOUT_SHARED(LP_XSD_DRIVER);
+  const int check = CheckMathAgainstSchema(equations, "eq_word_fields");
+  if (check == -1) GTEST_SKIP() << "no xmllint";
+  EXPECT_EQ(check, 0);
+}
+
 TEST(EqToOmml, SymbolFontCharactersBecomeUnicode) {
   std::vector<word::CodeCharacter> code = Looked(u"EQ ab");
   for (auto& c : code) c.size = 0;
@@ -121,12 +197,14 @@ TEST(EqToOmml, WhatItCannotConvertIsRefused) {
       u"SYMBOL 97",
       u"EQ \\F(a)",
       u"EQ \\F(a,b",
-      u"EQ \\d\\fo10()",
-      u"EQ \\i\\su(1,n,k)",
+      u"EQ \\d\\fo10(a)",
+      u"EQ \\d\\fo10",
+      u"EQ \\i\\su(1,n)",
+      u"EQ \\i\\fc(a,b,c)",
       u"EQ \\s\\up5(a,b)",
       u"EQ \\x\\to\\le(a)",
       u"EQ \\a\\co2(1,2,3)",
-      u"EQ \\o\\ac(○,印)",
+      u"EQ \\o\\ac(○,我们)",
       u"EQ \\Fx(a,b)",
       u"EQ \\F\\zz(a,b)",
       u"EQ a\\",
