@@ -29,7 +29,7 @@ set(LP_LAYERS
   "graph:runtime word errorlog settings session toolkit formula figures pictures"
   "inserts:runtime word errorlog settings session toolkit formula"
   "batch:runtime word errorlog settings session toolkit formula"
-  "gallery:runtime word errorlog settings session pictures"
+  "gallery:runtime word errorlog settings session formula pictures"
   "launcher:runtime word errorlog settings session"
   "ui:runtime word errorlog settings session launcher"
   "tools:*"

@@ -80,7 +80,8 @@ struct DrawingList {
 std::optional<DrawingList> ReadDrawingList(const std::string& path,
                                            const std::vector<std::u16string>& names = {});
 
-// The field code of an EQ field as LaTeX for the formula typesetter.
+// The code of an EQ field ("EQ" first) as LaTeX for the formula typesetter;
+// a code the formula engine can't read comes back as its text.
 std::u16string EqCodeToLatex(const std::u16string& code);
 
 }  // namespace lp::gallery

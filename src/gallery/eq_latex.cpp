@@ -1,172 +1,156 @@
-// EQ field codes as LaTeX: the switches the formula engine writes
-// (fractions, radicals, raised and lowered scripts, overstrikes, brackets,
-// arrays) become the typesetter's commands; anything else stays as text.
+// EQ field codes as LaTeX: the formula engine's parser reads the code into
+// its tree, and each node of the tree becomes the typesetter's command. A
+// code the parser refuses shows as its text, so no formula is ever lost.
 
-#include <cctype>
-#include <vector>
+#include <algorithm>
+#include <string_view>
+#include <utility>
 
+#include "formula/eq_code.h"
 #include "gallery/drawing_list.h"
+#include "runtime/text.h"
 
 namespace lp::gallery {
 namespace {
 
-struct Switch {
-  std::u16string name;                                             // upper case
-  std::vector<std::pair<std::u16string, std::u16string>> options;  // name upper case, value
-  std::vector<std::u16string> args;
-};
+std::u16string RowLatex(const EqRow& row);
 
-bool IsLetter(char16_t c) {
-  return c < 128 && std::isalpha(static_cast<unsigned char>(c));
+std::u16string Brace(const std::u16string& s) {
+  return u"{" + s + u"}";
 }
 
-std::u16string Upper(std::u16string s) {
-  for (char16_t& c : s)
-    if (c >= u'a' && c <= u'z') c = static_cast<char16_t>(c - u'a' + u'A');
-  return s;
-}
-
-std::u16string Escaped(char16_t c) {
-  if (c == u'{' || c == u'}') return std::u16string(u"\\") + c;
+// A character of the code as text: the characters TeX reserves escaped.
+std::u16string CharLatex(char16_t c) {
+  if (c == u'\\') return u"\\backslash ";
+  if (std::u16string_view(u"{}%&#$_").find(c) != std::u16string_view::npos)
+    return std::u16string(u"\\") + c;
   return std::u16string(1, c);
 }
 
-class EqParser {
- public:
-  explicit EqParser(const std::u16string& code) : s_(code) {}
+std::u16string RowAt(const EqNode& n, size_t i) {
+  return i < n.rows.size() ? RowLatex(n.rows[i]) : std::u16string();
+}
 
-  // The whole code: an unmatched ',' or ')' stands for itself.
-  std::u16string All() {
-    std::u16string out = Sequence();
-    while (i_ < s_.size()) {
-      out += s_[i_++];
-      out += Sequence();
-    }
-    return out;
+std::u16string Joined(const EqNode& n, const char16_t* separator) {
+  std::u16string out;
+  for (size_t i = 0; i < n.rows.size(); ++i) out += (i ? separator : u"") + RowLatex(n.rows[i]);
+  return out;
+}
+
+// The accent an overstruck mark stands for: the arrow of a vector, the arc,
+// the dot of a recurring digit, a bar (a dash only when raised); none for text.
+const char16_t* AccentOf(const EqRow& row) {
+  static const std::pair<char16_t, const char16_t*> accents[] = {
+      {u'→', u"\\vec"}, {u'⌒', u"\\overarc"},  {u'˙', u"\\dot"},
+      {u'·', u"\\dot"}, {u'¯', u"\\overline"}, {u'‾', u"\\overline"},
+      {u'-', nullptr},  {u'－', nullptr},      {u'—', nullptr}};
+  const bool raised = row.size() == 1 && row[0].kind == EqKind::kRaised;
+  const EqRow& mark = raised ? row[0].rows[0] : row;
+  if (mark.size() != 1 || mark[0].kind != EqKind::kChar) return nullptr;
+  for (const auto& [ch, accent] : accents)
+    if (ch == mark[0].ch) return accent ? accent : raised ? u"\\overline" : nullptr;
+  return nullptr;
+}
+
+// Texts printed over each other: a mark over the rest becomes its accent;
+// without one, the texts follow each other.
+std::u16string Overstrike(const EqNode& n) {
+  const char16_t* accent = nullptr;
+  std::u16string base;
+  for (const EqRow& row : n.rows) {
+    const char16_t* mark = accent ? nullptr : AccentOf(row);
+    if (mark)
+      accent = mark;
+    else
+      base += RowLatex(row);
   }
+  return accent ? accent + Brace(base) : base;
+}
 
-  // Text up to an unmatched ',' or ')' (or the end).
-  std::u16string Sequence() {
-    std::u16string out;
-    while (i_ < s_.size() && s_[i_] != u',' && s_[i_] != u')') {
-      if (s_[i_] == u'\\') {
-        out += Command();
-      } else if (s_[i_] == u'(') {
-        ++i_;
-        out += u"(" + Sequence();
-        if (i_ < s_.size() && s_[i_] == u')') out += s_[i_++];
-      } else {
-        out += Escaped(s_[i_++]);
-      }
-    }
-    return out;
+// A bracket as \left and \right take it; empty for one TeX has no delimiter for.
+std::u16string Delimiter(char16_t c) {
+  if (c == 0) return u".";
+  if (c == u'{' || c == u'}') return std::u16string(u"\\") + c;
+  if (std::u16string_view(u"()[]|/<>").find(c) != std::u16string_view::npos)
+    return std::u16string(1, c);
+  return {};
+}
+
+// Brackets grow with what they hold; other characters stand beside it as text.
+std::u16string Brackets(const EqNode& n) {
+  const std::u16string open = Delimiter(n.open), close = Delimiter(n.close);
+  if (!open.empty() && !close.empty()) return u"\\left" + open + RowAt(n, 0) + u"\\right" + close;
+  return (n.open ? CharLatex(n.open) : u"") + RowAt(n, 0) + (n.close ? CharLatex(n.close) : u"");
+}
+
+std::u16string Array(const EqNode& n) {
+  std::u16string out = u"\\begin{array}" + Brace(std::u16string(n.columns, u'l'));
+  for (size_t i = 0; i < n.rows.size(); ++i)
+    out += (i == 0 ? u"" : i % n.columns ? u"&" : u"\\\\") + RowLatex(n.rows[i]);
+  return out + u"\\end{array}";
+}
+
+std::u16string NodeLatex(const EqNode& n) {
+  switch (n.kind) {
+    case EqKind::kChar:
+      return CharLatex(n.ch);
+    case EqKind::kFraction:
+      return u"\\frac" + Brace(RowAt(n, 0)) + Brace(RowAt(n, 1));
+    case EqKind::kRadical:
+      return u"\\sqrt" + (n.rows[0].empty() ? u"" : u"[" + RowAt(n, 0) + u"]") + Brace(RowAt(n, 1));
+    case EqKind::kRaised:
+      return u"^" + Brace(RowAt(n, 0));
+    case EqKind::kLowered:
+      return u"_" + Brace(RowAt(n, 0));
+    case EqKind::kOverstrike:
+      return Overstrike(n);
+    case EqKind::kOverline:
+      return u"\\overline" + Brace(RowAt(n, 0));
+    case EqKind::kUnderline:
+      return u"\\underline" + Brace(RowAt(n, 0));
+    case EqKind::kBrackets:
+      return Brackets(n);
+    case EqKind::kArray:
+      return Array(n);
+    case EqKind::kBox:
+      return u"\\boxed" + Brace(RowAt(n, 0));
+    case EqKind::kList:
+    default:  // what has no command of its own shows its texts
+      return Joined(n, u",");
   }
+}
 
- private:
-  std::u16string Letters() {
-    std::u16string name;
-    while (i_ < s_.size() && IsLetter(s_[i_])) name += s_[i_++];
-    return Upper(name);
+bool IsScript(const EqNode& n) {
+  return n.kind == EqKind::kRaised || n.kind == EqKind::kLowered;
+}
+
+// A script stands after what it raises; one that opens a row or follows
+// another script gets an empty base, as the EQ field sets each apart.
+std::u16string RowLatex(const EqRow& row) {
+  std::u16string out;
+  for (size_t i = 0; i < row.size(); ++i) {
+    if (IsScript(row[i]) && (i == 0 || IsScript(row[i - 1]))) out += u"{}";
+    out += NodeLatex(row[i]);
   }
+  return out;
+}
 
-  std::u16string Command() {
-    ++i_;  // the backslash
-    Switch sw;
-    sw.name = Letters();
-    if (sw.name.empty()) return i_ < s_.size() ? Escaped(s_[i_++]) : u"";
-    while (i_ + 1 < s_.size() && s_[i_] == u'\\' && IsLetter(s_[i_ + 1])) {
-      ++i_;
-      std::u16string option = Letters(), value;
-      if (option == u"LC" || option == u"RC" || option == u"BC") {
-        if (i_ < s_.size() && s_[i_] == u'\\') ++i_;
-        if (i_ < s_.size()) value = s_[i_++];
-      } else {
-        while (i_ < s_.size() && (std::isdigit(s_[i_] < 128 ? s_[i_] : 'x') || s_[i_] == u' '))
-          value += s_[i_++];
-      }
-      sw.options.emplace_back(option, value);
-    }
-    if (i_ < s_.size() && s_[i_] == u'(') {
-      ++i_;
-      sw.args.push_back(Sequence());
-      while (i_ < s_.size() && s_[i_] == u',') {
-        ++i_;
-        sw.args.push_back(Sequence());
-      }
-      if (i_ < s_.size()) ++i_;  // ')'
-    }
-    return Latex(sw);
-  }
-
-  static std::u16string Option(const Switch& sw, const std::u16string& name) {
-    for (const auto& [option, value] : sw.options)
-      if (option == name) return value.empty() ? u" " : value;
-    return {};
-  }
-
-  static std::u16string Brace(std::u16string s) { return u"{" + s + u"}"; }
-
-  static std::u16string Delimiter(const std::u16string& d, const char16_t* fallback) {
-    if (d.empty()) return fallback;
-    if (d == u"{") return u"\\{";
-    if (d == u"}") return u"\\}";
-    return d;
-  }
-
-  static std::u16string Overstrike(const Switch& sw) {
-    std::u16string mark, base;
-    for (const std::u16string& arg : sw.args) {
-      if (arg.find(u'→') != std::u16string::npos)
-        mark = u"\\vec";
-      else if (arg.find(u'⌒') != std::u16string::npos)
-        mark = u"\\overarc";
-      else if (arg.find(u'˙') != std::u16string::npos)
-        mark = u"\\dot";
-      else if (arg == u"^{-}")
-        mark = u"\\overline";
-      else
-        base += arg;
-    }
-    return mark.empty() ? base : mark + Brace(base);
-  }
-
-  static std::u16string Latex(const Switch& sw) {
-    const auto arg = [&](size_t n) { return n < sw.args.size() ? sw.args[n] : std::u16string(); };
-    std::u16string all;
-    for (const std::u16string& a : sw.args) all += (all.empty() ? u"" : u",") + a;
-    if (sw.name == u"F") return u"\\frac" + Brace(arg(0)) + Brace(arg(1));
-    if (sw.name == u"R") {
-      if (sw.args.size() < 2) return u"\\sqrt" + Brace(arg(0));
-      return u"\\sqrt" + (arg(0).empty() ? u"" : u"[" + arg(0) + u"]") + Brace(arg(1));
-    }
-    if (sw.name == u"S") return (Option(sw, u"DO").empty() ? u"^" : u"_") + Brace(arg(0));
-    if (sw.name == u"O") return Overstrike(sw);
-    if (sw.name == u"B") {
-      const std::u16string left = Option(sw, u"LC"), right = Option(sw, u"RC");
-      if (!left.empty() && right.empty())
-        return u"\\left" + Delimiter(left, u"(") + all + u"\\right.";
-      return u"\\left" + Delimiter(left, u"(") + all + u"\\right" + Delimiter(right, u")");
-    }
-    if (sw.name == u"A") {
-      std::u16string rows;
-      for (const std::u16string& a : sw.args) rows += (rows.empty() ? u"" : u"\\\\") + a;
-      return u"\\begin{array}{l}" + rows + u"\\end{array}";
-    }
-    return all;
-  }
-
-  const std::u16string& s_;
-  size_t i_ = 0;
-};
+// The text of a refused code after "EQ", every character shown as itself.
+std::u16string CodeText(const std::u16string& code) {
+  const std::u16string trimmed = Trim(code);
+  std::u16string out;
+  for (char16_t c : Trim(trimmed.substr(std::min<size_t>(2, trimmed.size())))) out += CharLatex(c);
+  return out;
+}
 
 }  // namespace
 
 std::u16string EqCodeToLatex(const std::u16string& code) {
-  EqParser parser(code);
-  std::u16string latex = parser.All();
-  const size_t first = latex.find_first_not_of(u' ');
-  if (first == std::u16string::npos) return {};
-  return latex.substr(first, latex.find_last_not_of(u' ') - first + 1);
+  try {
+    return RowLatex(ParseEqCode(code));
+  } catch (const EqCodeError&) {
+    return CodeText(code);
+  }
 }
 
 }  // namespace lp::gallery

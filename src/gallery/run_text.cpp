@@ -144,7 +144,7 @@ class LineReader {
     if (code.starts_with(u"EQ") || code.starts_with(u"eq")) {
       TextRun formula = codeStyle_;
       formula.formula = true;
-      formula.text = EqCodeToLatex(code.substr(2));
+      formula.text = EqCodeToLatex(code);
       line_.runs.push_back(formula);
     } else if (const std::u16string symbol = SymbolOf(code); !symbol.empty()) {
       TextRun piece = codeStyle_;

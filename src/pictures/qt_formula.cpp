@@ -81,7 +81,7 @@ const QHash<QString, QString>& Symbols() {
         {"rbrace", "}"},     {"{", "{"},          {"}", "}"},          {"%", "%"},
         {"ldots", "…"},      {"cdots", "⋯"},      {"odot", "⊙"},       {"neg", "¬"},
         {"forall", "∀"},     {"exists", "∃"},     {"sum", "∑"},        {"int", "∫"},
-        {"partial", "∂"},    {"nabla", "∇"}};
+        {"partial", "∂"},    {"nabla", "∇"},      {"backslash", "\\"}};
     for (auto& p : pairs) s.insert(QString::fromLatin1(p[0]), QString::fromUtf8(p[1]));
     return s;
   }();
@@ -203,7 +203,7 @@ FormulaBox Typesetter::CommandBox(const QString& name, double size, QString& sig
     return Fraction(size, name == u"dfrac");
   if (name == u"sqrt") return Radical(size);
   if (name == u"overline" || name == u"vec" || name == u"overrightarrow" || name == u"bar" ||
-      name == u"overarc" || name == u"dot")
+      name == u"overarc" || name == u"dot" || name == u"underline" || name == u"boxed")
     return Accent(name, size);
   if (name == u"left") return Delimited(size);
   if (name == u"begin") {
@@ -321,6 +321,25 @@ FormulaBox Typesetter::Accent(const QString& name, double size) {
     b.ascent += 0.35 * size;
     return b;
   }
+  if (name == u"underline") {
+    const double under = b.descent + 0.1 * size;
+    b.pieces.push_back({Piece::kRule, {}, {}, {}, QLineF(0, under, b.width, under), {}, size / 18});
+    b.descent = under + 0.1 * size;
+    return b;
+  }
+  if (name == u"boxed") {  // a frame a little wider and taller than what it holds
+    const double pad = 0.15 * size;
+    QPainterPath frame;
+    frame.addRect(QRectF(0, -(b.ascent + pad), b.width + 2 * pad, b.ascent + b.descent + 2 * pad));
+    FormulaBox framed;
+    framed.Space(pad);
+    framed.Append(b);
+    framed.Space(pad);
+    framed.pieces.push_back({Piece::kPath, {}, {}, {}, {}, frame, size / 18});
+    framed.ascent = b.ascent + pad + size / 18;
+    framed.descent = b.descent + pad + size / 18;
+    return framed;
+  }
   if (name == u"dot") {  // the dot of a recurring digit
     const double r = size / 30;
     QPainterPath dot;
@@ -381,19 +400,8 @@ FormulaBox Typesetter::Delimited(double size) {
   return b;
 }
 
-// The lines of a system, left-aligned, centred on the maths axis.
-FormulaBox Typesetter::Rows(double size) {
-  std::vector<FormulaBox> lines;
-  for (;;) {
-    FormulaBox line = Row(size);
-    while (Peek() == u'&') {
-      ++i_;
-      line.Append(Row(size));
-    }
-    if (line.width > 0) lines.push_back(line);
-    if (!At(QStringLiteral("\\\\"))) break;
-    i_ += 2;
-  }
+// Lines one under another, left-aligned, centred on the maths axis.
+FormulaBox Stacked(const std::vector<FormulaBox>& lines, double size) {
   double lead = 0.25 * size, height = 0;
   for (const FormulaBox& l : lines) height += l.ascent + l.descent + lead;
   height -= lead;
@@ -409,6 +417,36 @@ FormulaBox Typesetter::Rows(double size) {
   }
   b.width = width;
   return b;
+}
+
+// The lines of a system or an array, their cells left-aligned in columns a
+// quad apart.
+FormulaBox Typesetter::Rows(double size) {
+  std::vector<std::vector<FormulaBox>> cells;
+  std::vector<double> columns;  // the width of each column
+  for (;;) {
+    cells.emplace_back(1, Row(size));
+    while (Peek() == u'&') {
+      ++i_;
+      cells.back().push_back(Row(size));
+    }
+    columns.resize(std::max(columns.size(), cells.back().size()));
+    for (size_t c = 0; c < cells.back().size(); ++c)
+      columns[c] = std::max(columns[c], cells.back()[c].width);
+    if (!At(QStringLiteral("\\\\"))) break;
+    i_ += 2;
+  }
+  std::vector<FormulaBox> lines;
+  for (const std::vector<FormulaBox>& line : cells) {
+    FormulaBox aligned;
+    double x = 0;
+    for (size_t c = 0; c < line.size(); x += columns[c++] + size) {
+      aligned.width = x;
+      aligned.Append(line[c]);
+    }
+    if (aligned.width > 0) lines.push_back(aligned);
+  }
+  return Stacked(lines, size);
 }
 
 }  // namespace

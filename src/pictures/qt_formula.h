@@ -1,9 +1,9 @@
 #pragma once
 // Formula pictures: a small typesetter for the LaTeX the formula engine
-// writes (fractions, radicals with an index, scripts, bars and vectors,
-// Greek letters, relations, the brace of a system), painted with Qt. No TeX
-// installation and no network: boxes of glyphs and rules laid out as a
-// printed formula sets them. Unknown commands show as their name, so a
+// writes (fractions, radicals with an index, scripts, bars, boxes and
+// vectors, Greek letters, relations, the brace of a system, arrays),
+// painted with Qt. No TeX installation and no network: boxes of glyphs and
+// rules laid out as a printed formula sets them. Unknown commands show as their name, so a
 // formula never fails to draw.
 
 #include <QColor>

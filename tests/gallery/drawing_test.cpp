@@ -2,35 +2,39 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
 #include "gallery/drawing_list.h"
 #include "gallery/picture_settings.h"
+#include "runtime/utf8.h"
 
 namespace lp::gallery {
 namespace {
 
-struct EqRow {
-  const char* name;
-  std::u16string code;
-  std::u16string latex;
-};
+std::vector<std::string> Columns(const std::string& line) {
+  std::vector<std::string> columns;
+  std::istringstream in(line);
+  for (std::string column; std::getline(in, column, '\t');) columns.push_back(column);
+  return columns;
+}
 
-TEST(EqCodeToLatex, TheSwitchesTheFormulaEngineWrites) {
-  const EqRow rows[] = {
-      {"fraction", u"\\F(1,2)", u"\\frac{1}{2}"},
-      {"fraction with a raised script", u"\\F(x\\S(2),2)", u"\\frac{x^{2}}{2}"},
-      {"square root", u"\\R(,3)", u"\\sqrt{3}"},
-      {"cube root", u"\\R(3,x)", u"\\sqrt[3]{x}"},
-      {"raised", u"x\\S\\UP6(2)", u"x^{2}"},
-      {"lowered", u"a\\S\\DO3(n)", u"a_{n}"},
-      {"vector", u"\\o\\ac(\\S\\UP7(→),AB)", u"\\vec{AB}"},
-      {"arc", u"\\o\\ac(\\S\\UP7(⌒),AB)", u"\\overarc{AB}"},
-      {"recurring digit", u"0.1\\o(\\s\\up 3(˙),2)", u"0.1\\dot{2}"},
-      {"system", u"\\B\\lc\\{(\\a\\al(x＋y＝1,x－y＝3))",
-       u"\\left\\{\\begin{array}{l}x＋y＝1\\\\x－y＝3\\end{array}\\right."},
-      {"escaped brace, stray bracket, blanks", u" \\{a) ", u"\\{a)"},
-      {"lower case switches", u"\\f(a,b)", u"\\frac{a}{b}"},
-  };
-  for (const EqRow& row : rows) EXPECT_EQ(EqCodeToLatex(row.code), row.latex) << row.name;
+// eq_latex_rows.tsv: name, EQ field code, the LaTeX expected (which the
+// gallery.eq_latex_katex test parses with KaTeX).
+TEST(EqCodeToLatex, TheTreeOfEachKindAndRefusedCodes) {
+  std::ifstream rows(LP_EQ_LATEX_ROWS);
+  ASSERT_TRUE(rows) << LP_EQ_LATEX_ROWS;
+  int count = 0;
+  for (std::string line; std::getline(rows, line);) {
+    if (line.empty() || line[0] == '#') continue;
+    const std::vector<std::string> row = Columns(line);
+    ASSERT_EQ(row.size(), 3u) << line;
+    EXPECT_EQ(ToUtf8(EqCodeToLatex(FromUtf8(row[1]))), row[2]) << row[0];
+    ++count;
+  }
+  EXPECT_GE(count, 30);
 }
 
 struct SettingsRow {
