@@ -4,11 +4,9 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cstdio>
 #include <ctime>
 #include <fstream>
 #include <memory>
-#include <stdexcept>
 
 #include "word/docx/document_file.h"
 #include "word/docx/docx_error.h"
@@ -51,17 +49,18 @@ std::string ReadEntry(zip_t* z, zip_int64_t index) {
   return data;
 }
 
-// The entry's bytes as the archive holds them, compressed or not.
-StoredEntry StoredEntryOf(zip_t* z, const std::string& name, std::time_t now) {
+// The entry's bytes as the archive holds them, compressed or not; nullopt
+// when libzip cannot give them.
+std::optional<StoredEntry> StoredEntryOf(zip_t* z, const std::string& name, std::time_t now) {
   const zip_int64_t index = zip_name_locate(z, name.c_str(), 0);
   zip_stat_t st;
-  if (index < 0 || zip_stat_index(z, index, 0, &st) != 0) throw DocxFileError(kDamaged);
+  if (index < 0 || zip_stat_index(z, index, 0, &st) != 0) return std::nullopt;
   const zip_uint64_t needed =
       ZIP_STAT_SIZE | ZIP_STAT_COMP_SIZE | ZIP_STAT_CRC | ZIP_STAT_COMP_METHOD;
   if ((st.valid & needed) != needed || st.comp_size > kMaxPartSize ||
       (st.comp_method != ZIP_CM_STORE && st.comp_method != ZIP_CM_DEFLATE) ||
       ((st.valid & ZIP_STAT_ENCRYPTION_METHOD) && st.encryption_method != ZIP_EM_NONE))
-    throw DocxFileError(kDamaged);
+    return std::nullopt;
   StoredEntry e{name,
                 st.comp_method,
                 st.crc,
@@ -69,11 +68,11 @@ StoredEntry StoredEntryOf(zip_t* z, const std::string& name, std::time_t now) {
                 std::string(st.comp_size, '\0'),
                 (st.valid & ZIP_STAT_MTIME) ? st.mtime : now};
   zip_file_t* f = zip_fopen_index(z, index, ZIP_FL_COMPRESSED);
-  if (!f) throw DocxFileError(kDamaged);
+  if (!f) return std::nullopt;
   const zip_int64_t got =
       e.compressed.empty() ? 0 : zip_fread(f, e.compressed.data(), st.comp_size);
   zip_fclose(f);
-  if (got != static_cast<zip_int64_t>(st.comp_size)) throw DocxFileError(kDamaged);
+  if (got != static_cast<zip_int64_t>(st.comp_size)) return std::nullopt;
   return e;
 }
 
@@ -118,14 +117,8 @@ Package Package::Copy() const {
 
 bool Package::Has(const std::string& part) const {
   if (written_.count(part)) return true;
-  auto lower = [](std::string s) {
-    for (auto& c : s) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return s;
-  };
-  const std::string wanted = lower(part);
-  for (const auto& n : names_)
-    if (lower(n) == wanted) return true;
-  return false;
+  return std::any_of(names_.begin(), names_.end(),
+                     [&](const std::string& name) { return SameName(name, part); });
 }
 
 std::optional<std::string> Package::Read(const std::string& part) const {
@@ -176,7 +169,9 @@ bool Package::WriteZip(const std::filesystem::path& temp) const {
     auto written = std::find_if(written_.begin(), written_.end(),
                                 [&](const auto& part) { return SameName(part.first, name); });
     if (written == written_.end()) {
-      zip.AddStored(StoredEntryOf(reader_.get(), name, now));
+      std::optional<StoredEntry> entry = StoredEntryOf(reader_.get(), name, now);
+      if (!entry) return false;
+      zip.AddStored(*entry);
       continue;
     }
     zip.AddDeflated(name, written->second);
