@@ -3,7 +3,10 @@
 the result by reading the XML itself: the intended change is there, nothing
 else changed, and a sample opens in LibreOffice.
 
-usage: check_corpus.py BATCH_TOOL CORPUS_DIR [--soffice N]
+usage: check_corpus.py BATCH_TOOL CORPUS_DIR [--soffice N | --soffice-all]
+
+--soffice N opens N of the backed-up results in LibreOffice; --soffice-all runs
+every operation in turn over one copy and opens every document of it.
 """
 import os
 import re
@@ -250,11 +253,20 @@ def opens_in_libreoffice(folder, files, work):
     os.makedirs(out, exist_ok=True)
     paths = [os.path.join(folder, f) for f in files]
     subprocess.run(['soffice', f'-env:UserInstallation=file://{work}/profile', '--headless',
-                    '--convert-to', 'pdf', '--outdir', out, *paths], capture_output=True, timeout=600)
+                    '--convert-to', 'pdf', '--outdir', out, *paths], capture_output=True, timeout=1100)
     for f in files:
         pdf = os.path.join(out, os.path.splitext(os.path.basename(f))[0] + '.pdf')
         if not os.path.exists(pdf) or os.path.getsize(pdf) == 0:
             fail(f, 'LibreOffice did not open the processed file')
+
+
+def every_operation(tool, src, work, checks):
+    """One copy of the corpus that every operation ran over in turn."""
+    folder = os.path.join(work, 'all')
+    shutil.copytree(src, folder)
+    for op, args, _ in checks:
+        subprocess.run([tool, op, folder, *args], capture_output=True)
+    return folder
 
 
 def main():
@@ -286,7 +298,9 @@ def main():
         folder = run(tool, src, work, 'backup')
         for f in files:
             check_backup(f, os.path.join(src, f), os.path.dirname(os.path.join(folder, f)))
-        if sample:
+        if '--soffice-all' in sys.argv:
+            opens_in_libreoffice(every_operation(tool, src, work, checks), files, work)
+        elif sample:
             opens_in_libreoffice(folder, files[::max(1, len(files) // sample)][:sample], work)
         print(f'{len(files)} documents, {len(checks) + 1} operations')
     finally:
