@@ -282,7 +282,8 @@ class OmmlBuilder {
 
   // The character in a circle as the one character Unicode has for it (①,
   // Ⓐ, ㊞); else the text in a box for the square, or the one character
-  // with the combining enclosure for the others.
+  // with the combining enclosure for the others, as ordinary text, which
+  // lays a combining mark round its character where math text does not.
   Xml Enclosed(const EqNode& n) {
     const EqRow& text = n.rows[0];
     std::u16string chars;
@@ -293,7 +294,7 @@ class OmmlBuilder {
       throw EqCodeError("more than one character in a circle, triangle or diamond");
     const char16_t mark = n.ch == u'○' ? u'\u20DD' : n.ch == u'◇' ? u'\u20DF' : u'\u20E4';
     const Shown s = Show(text[0]);
-    return RunOf(s, {s.ch, mark});
+    return omml::NormalText({s.ch, mark}, WordProps(s.font));
   }
 
   std::string WordProps(const std::u16string& font) const {

@@ -152,13 +152,13 @@ TEST(EqToOmml, WordsOwnFields) {
        {"<m:oMath><m:r><w:rPr><w:sz w:val=\"21\"/></w:rPr><m:t "
         "xml:space=\"preserve\">㊞</m:t></m:r></m:oMath>"}},
       {"CircleSecond", u"eq \\o\\ac(中,\\s\\up-1(○))", {">㊥</m:t>"}},
-      {"CircledOther", u"eq \\o\\ac(○,我)", {">我\u20DD</m:t>"}},
+      {"CircledOther", u"eq \\o\\ac(○,我)", {"<m:nor/>", ">我\u20DD</m:t>"}},
       {"CircledNumberBeyondFifty", u"eq \\o\\ac(○,7)＋\\o\\ac(○,51)", {"(refused)"}},
       {"Square",
        u"eq \\o\\ac(□,12)",
        {"<m:borderBox><m:e><m:r>", ">2</m:t></m:r></m:e></m:borderBox>"}},
-      {"Triangle", u"eq \\o\\ac(△,1)", {">1\u20E4</m:t>"}},
-      {"Diamond", u"eq \\o\\ac(◇,优)", {">优\u20DF</m:t>"}},
+      {"Triangle", u"eq \\o\\ac(△,1)", {"<m:nor/>", ">1\u20E4</m:t>"}},
+      {"Diamond", u"eq \\o\\ac(◇,优)", {"<m:nor/>", ">优\u20DF</m:t>"}},
   };
   std::string equations;
   for (const Row& row : rows) {
