@@ -3,9 +3,11 @@
 // code the parser refuses shows as its text, so no formula is ever lost.
 
 #include <algorithm>
+#include <cmath>
 #include <string_view>
 #include <utility>
 
+#include "formula/enclosed_characters.h"
 #include "formula/eq_code.h"
 #include "gallery/drawing_list.h"
 #include "runtime/text.h"
@@ -90,6 +92,42 @@ std::u16string Array(const EqNode& n) {
   return out + u"\\end{array}";
 }
 
+// An integral, sum or product: its sign's command, the limits it has as
+// scripts (a sum's stand over and under it in display), the integrand.
+std::u16string Nary(const EqNode& n) {
+  static const std::pair<char16_t, const char16_t*> signs[] = {
+      {u'∫', u"\\int"},  {u'∑', u"\\sum"},  {u'∏', u"\\prod"},
+      {u'∮', u"\\oint"}, {u'∬', u"\\iint"}, {u'∭', u"\\iiint"}};
+  auto known = std::find_if(std::begin(signs), std::end(signs),
+                            [&](const auto& sign) { return sign.first == n.ch; });
+  std::u16string out = known != std::end(signs) ? known->second : Brace(CharLatex(n.ch));
+  if (!n.rows[0].empty()) out += u"_" + Brace(RowAt(n, 0));
+  if (!n.rows[1].empty()) out += u"^" + Brace(RowAt(n, 1));
+  return out + Brace(RowAt(n, 2));
+}
+
+// A move forward is space, a quarter of an em for each quarter of the
+// distance at the size of body text (10.5 points); with \LI a line under it.
+// A move back overlaps, which the typesetter does not: the text just follows.
+std::u16string Displacement(const EqNode& n) {
+  const long quarters = std::lround(n.points / 10.5 * 4);
+  std::u16string space;
+  for (long i = 0; i < quarters / 4; ++i) space += u"\\quad";
+  for (long i = 0; i < quarters % 4; ++i) space += u"\\;";
+  return n.line && !space.empty() ? u"\\underline" + Brace(space) : space;
+}
+
+// An enclosed character as the one character Unicode has for it; a square
+// boxes its text; else the character with its combining enclosure.
+std::u16string Enclosed(const EqNode& n) {
+  std::u16string text;
+  for (const EqNode& c : n.rows[0]) text += c.kind == EqKind::kChar ? c.ch : u'\0';
+  if (char16_t one = EnclosedCharacter(n.ch, text)) return u"\\text" + Brace({one});
+  if (n.ch == u'□') return u"\\boxed" + Brace(RowAt(n, 0));
+  const char16_t mark = n.ch == u'○' ? u'\u20DD' : n.ch == u'◇' ? u'\u20DF' : u'\u20E4';
+  return u"\\text" + Brace(RowAt(n, 0) + mark);
+}
+
 std::u16string NodeLatex(const EqNode& n) {
   switch (n.kind) {
     case EqKind::kChar:
@@ -114,6 +152,12 @@ std::u16string NodeLatex(const EqNode& n) {
       return Array(n);
     case EqKind::kBox:
       return u"\\boxed" + Brace(RowAt(n, 0));
+    case EqKind::kNary:
+      return Nary(n);
+    case EqKind::kDisplace:
+      return Displacement(n);
+    case EqKind::kEnclosed:
+      return Enclosed(n);
     case EqKind::kList:
     default:  // what has no command of its own shows its texts
       return Joined(n, u",");
@@ -125,11 +169,13 @@ bool IsScript(const EqNode& n) {
 }
 
 // A script stands after what it raises; one that opens a row or follows
-// another script gets an empty base, as the EQ field sets each apart.
+// another script or a space gets an empty base, as the EQ field sets each apart.
 std::u16string RowLatex(const EqRow& row) {
   std::u16string out;
   for (size_t i = 0; i < row.size(); ++i) {
-    if (IsScript(row[i]) && (i == 0 || IsScript(row[i - 1]))) out += u"{}";
+    if (IsScript(row[i]) &&
+        (i == 0 || IsScript(row[i - 1]) || row[i - 1].kind == EqKind::kDisplace))
+      out += u"{}";
     out += NodeLatex(row[i]);
   }
   return out;

@@ -81,6 +81,7 @@ const QHash<QString, QString>& Symbols() {
         {"rbrace", "}"},     {"{", "{"},          {"}", "}"},          {"%", "%"},
         {"ldots", "…"},      {"cdots", "⋯"},      {"odot", "⊙"},       {"neg", "¬"},
         {"forall", "∀"},     {"exists", "∃"},     {"sum", "∑"},        {"int", "∫"},
+        {"prod", "∏"},       {"oint", "∮"},       {"iint", "∬"},       {"iiint", "∭"},
         {"partial", "∂"},    {"nabla", "∇"},      {"backslash", "\\"}};
     for (auto& p : pairs) s.insert(QString::fromLatin1(p[0]), QString::fromUtf8(p[1]));
     return s;
