@@ -121,7 +121,10 @@ class EqParser {
     if (depth > kDeepest) throw EqCodeError("too deep");
     EqRow row;
     int open = 0;
-    for (SkipBlanks(); !AtEnd(); SkipBlanks()) {
+    for (;;) {
+      const size_t blank = pos_;
+      SkipBlanks();
+      if (AtEnd()) break;
       const char16_t c = s_[pos_];
       if (depth > 0 && open == 0 && (c == u',' || c == u')')) break;
       if (c == u'\\') {
@@ -136,6 +139,11 @@ class EqParser {
       }
       if (c == u'(') ++open;
       if (c == u')' && open > 0) --open;
+      // A blank between two words is a space of the text, as EQ shows it;
+      // blanks elsewhere only set the code out.
+      if (pos_ > blank && IsLetter(c) && !row.empty() && row.back().kind == EqKind::kChar &&
+          IsLetter(row.back().ch))
+        row.push_back(Char(blank));
       row.push_back(Char(pos_++));
     }
     return row;

@@ -18,7 +18,7 @@ struct EqCodeError : std::runtime_error {
 };
 
 enum class EqKind {
-  kChar,        // one character of the code
+  kChar,        // one character of the code; a blank only between two words
   kFraction,    // rows: numerator, denominator
   kRadical,     // rows: index (maybe empty), radicand
   kRaised,      // rows: the raised text

@@ -260,8 +260,11 @@ class OmmlBuilder {
     return omml::Run(text, Style(s.look, s.ch), WordProps(s.font));
   }
 
+  // A blank between words is ordinary text: math text drops its spaces.
   Xml Char(const EqNode& n) const {
     const Shown s = Show(n);
+    if (s.ch == u' ' || s.ch == u'\u3000')
+      return omml::NormalText(std::u16string(1, s.ch), WordProps(s.font));
     return RunOf(s, std::u16string(1, s.ch));
   }
 

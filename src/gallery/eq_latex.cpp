@@ -24,6 +24,7 @@ std::u16string Brace(const std::u16string& s) {
 // A character of the code as text: the characters TeX reserves escaped.
 std::u16string CharLatex(char16_t c) {
   if (c == u'\\') return u"\\backslash ";
+  if (c == u' ' || c == u'\u3000') return u"\\ ";  // a space between words
   if (std::u16string_view(u"{}%&#$_").find(c) != std::u16string_view::npos)
     return std::u16string(u"\\") + c;
   return std::u16string(1, c);

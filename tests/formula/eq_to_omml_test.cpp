@@ -143,6 +143,11 @@ TEST(EqToOmml, WordsOwnFields) {
       {"MoveBackOverlapsTheScript",
        u"eq V\\d\\ba8()\\s\\up9(re)\\d\\ba1()isionary",
        {"<m:oMath><m:sSup><m:e><m:r>", ">V</m:t></m:r></m:e><m:sup>", "</m:sup></m:sSup><m:r>"}},
+      {"SpaceBetweenWords",
+       u"eq V\\d\\ba8()\\s\\up9(re)\\d\\ba1()isionary Manuals",
+       {">y</m:t></m:r><m:r><m:rPr><m:nor/></m:rPr><w:rPr><w:sz w:val=\"21\"/></w:rPr>"
+        "<m:t xml:space=\"preserve\"> </m:t></m:r><m:r>"}},
+      {"BlanksAroundSignsSetTheCodeOut", u"EQ x2 + 3 x", {">2</m:t></m:r><m:r><w:rPr><w:sz"}},
       {"CircledNumber", u"eq \\o\\ac(○,3)", {">③</m:t>"}},
       {"CircledTwenty", u"eq \\o\\ac(◯,20)", {">⑳</m:t>"}},
       {"CircledFifty", u"eq \\o\\ac(○,50)", {">㊿</m:t>"}},
