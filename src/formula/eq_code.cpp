@@ -1,6 +1,7 @@
 #include "formula/eq_code.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace lp {
 namespace {
@@ -64,28 +65,15 @@ char16_t LoneCharacter(const EqRow& part) {
 // The enclosure an overstrike's part draws round the other: the circle,
 // square, triangle or diamond Word's enclosed characters are made of.
 char16_t Enclosure(const EqRow& part) {
-  switch (LoneCharacter(part)) {
-    case u'○':
-    case u'◯':
-      return u'○';
-    case u'□':
-      return u'□';
-    case u'△':
-      return u'△';
-    case u'◇':
-      return u'◇';
-    default:
-      return 0;
-  }
+  const char16_t c = LoneCharacter(part);
+  if (c == u'◯') return u'○';
+  return c && std::u16string_view(u"○□△◇").find(c) != std::u16string_view::npos ? c : 0;
 }
 
 // The text of a part out of the script that only moves it a little: to
 // centre it in its enclosure, or a limit that stands over its sign anyway.
 EqRow Unraised(EqRow part) {
-  if (part.size() == 1 && IsScript(part[0])) {
-    EqRow inner = std::move(part[0].rows[0]);
-    return inner;
-  }
+  if (part.size() == 1 && IsScript(part[0])) return std::move(part[0].rows[0]);
   return part;
 }
 
