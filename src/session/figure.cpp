@@ -5,6 +5,7 @@
 #include <ctime>
 #include <random>
 
+#include "runtime/clock.h"
 #include "runtime/convert.h"
 #include "runtime/error.h"
 #include "runtime/text.h"
@@ -16,13 +17,7 @@ namespace {
 // The present date and time as a Chinese Windows writes them by default,
 // "2024/5/6 14:03:07".
 std::u16string NowText() {
-  std::time_t now = std::time(nullptr);
-  std::tm local{};
-#ifdef _WIN32
-  localtime_s(&local, &now);
-#else
-  localtime_r(&now, &local);
-#endif
+  const std::tm local = lp::LocalTime(std::time(nullptr));
   char text[40];
   std::snprintf(text, sizeof text, "%d/%d/%d %d:%02d:%02d", local.tm_year + 1900, local.tm_mon + 1,
                 local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec);

@@ -3,6 +3,7 @@
 #include <ctime>
 #include <string>
 
+#include "runtime/clock.h"
 #include "runtime/utf8.h"
 #include "settings/database.h"
 #include "settings/settings_store.h"
@@ -50,8 +51,7 @@ void WriteRecordSlot(const std::string& dbPath, int id, const std::u16string& da
   Database db(WritableDatabasePath(dbPath));
   OpenDatabase(db);
   db.DbRs.Open(RecordWriteStatement(id), db.DbConn);
-  std::time_t now = std::time(nullptr);
-  std::tm local = *std::localtime(&now);
+  const std::tm local = lp::LocalTime(std::time(nullptr));
   db.DbRs.SetValue("Date", DateText(local));
   db.DbRs.SetValue("Time", TimeText(local));
   db.DbRs.SetValue("Data", data);

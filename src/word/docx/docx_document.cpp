@@ -5,6 +5,7 @@
 #include <cstring>
 #include <ctime>
 
+#include "runtime/clock.h"
 #include "runtime/utf8.h"
 #include "word/docx/app_state.h"
 #include "word/docx/auto_text.h"
@@ -102,13 +103,7 @@ std::string DefaultAuthor() {
 }
 
 std::string UtcNow() {
-  std::time_t now = std::time(nullptr);
-  std::tm utc{};
-#ifdef _WIN32
-  gmtime_s(&utc, &now);
-#else
-  gmtime_r(&now, &utc);
-#endif
+  const std::tm utc = lp::UtcTime(std::time(nullptr));
   char text[32];
   std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &utc);
   return text;

@@ -4,6 +4,8 @@
 
 #include <limits>
 
+#include "runtime/clock.h"
+
 namespace word::docx {
 namespace {
 
@@ -22,12 +24,7 @@ void Put32(std::string& out, std::uint32_t v) {
 
 // MS-DOS date and time, as the archive keeps them: local time, two seconds apart.
 std::uint32_t DosTime(std::time_t t) {
-  std::tm local{};
-#ifdef _WIN32
-  localtime_s(&local, &t);
-#else
-  localtime_r(&t, &local);
-#endif
+  const std::tm local = lp::LocalTime(t);
   if (local.tm_year < 80) return (1u << 5 | 1u) << 16;  // 1980-01-01, the earliest there is
   const std::uint32_t date = static_cast<std::uint32_t>((local.tm_year - 80) << 9 |
                                                         (local.tm_mon + 1) << 5 | local.tm_mday);
