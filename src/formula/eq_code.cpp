@@ -115,6 +115,10 @@ class EqParser {
       if (AtEnd()) break;
       const char16_t c = s_[pos_];
       if (depth > 0 && open == 0 && (c == u',' || c == u')')) break;
+      if (c == u'\\' && depth == 0 && At(pos_ + 1) == u'*') {
+        SkipFormatSwitch();
+        continue;
+      }
       if (c == u'\\') {
         EqNode node = Backslash(depth);
         // EQ draws a script right behind an integral after the integrand, at
@@ -135,6 +139,20 @@ class EqParser {
       row.push_back(Char(pos_++));
     }
     return row;
+  }
+
+  // A switch of the field's format (\* MERGEFORMAT, the \* jc2 \* "Font:宋体"
+  // \* hps10 of a phonetic guide) with its word or quoted text: it says
+  // nothing of what the formula shows.
+  void SkipFormatSwitch() {
+    pos_ += 2;
+    SkipBlanks();
+    if (At(pos_) == u'"') {
+      const size_t close = s_.find(u'"', pos_ + 1);
+      pos_ = close == std::u16string::npos ? s_.size() : close + 1;
+      return;
+    }
+    while (!AtEnd() && s_[pos_] != u' ' && s_[pos_] != u'\u3000' && s_[pos_] != u'\\') ++pos_;
   }
 
   // A switch with its options and arguments, or an escaped character.
@@ -205,7 +223,7 @@ class EqParser {
       if (word != u"LC") o.close = word == u"BC" ? Mirror(b) : b;
     } else if (word == u"TO" || word == u"BO" || word == u"LE" || word == u"RI") {
       o.sides |= word == u"TO" ? kTop : word == u"BO" ? kBottom : word == u"LE" ? kLeft : kRight;
-    } else if (word != u"AL" && word != u"AC" && word != u"AR") {
+    } else if (word != u"AL" && word != u"AC" && word != u"AR" && word != u"AD") {
       throw EqCodeError("unknown option");
     }
   }

@@ -151,7 +151,8 @@ class OmmlBuilder {
   }
 
   // \O of a raised and a lowered script: both on the character before; \O
-  // of a raised sign and a text: the sign as an accent of the text.
+  // of a raised sign and a text: the sign as an accent of the text; of a
+  // raised text and a text: the one over the other.
   Xml Overstrike(std::vector<Item>& items, const EqNode& n) {
     if (n.rows.size() != 2) throw EqCodeError("overstrike of other than two parts");
     const EqRow &a = n.rows[0], &b = n.rows[1];
@@ -177,8 +178,18 @@ class OmmlBuilder {
       case u'−':
         return omml::Bar(base);
       default:
-        throw EqCodeError("overstrike lumenpad does not convert");
+        break;
     }
+    // A raised text over another: the reading over its characters, as
+    // Word's phonetic guide writes it.
+    const bool overFirst = IsRaisedText(a);
+    if (!overFirst && !IsRaisedText(b)) throw EqCodeError("overstrike lumenpad does not convert");
+    const EqRow &over = overFirst ? a : b, &under = overFirst ? b : a;
+    return omml::UpperLimit(Row(under), Row(over[0].rows[0]));
+  }
+
+  static bool IsRaisedText(const EqRow& row) {
+    return row.size() == 1 && row[0].kind == EqKind::kRaised;
   }
 
   Xml Node(const EqNode& n) {

@@ -83,6 +83,10 @@ Xml GroupCharacter(const std::u16string& character, const Xml& base) {
                               Wrap("e", base));
 }
 
+Xml UpperLimit(const Xml& base, const Xml& limit) {
+  return Wrap("limUpp", Wrap("e", base) + Wrap("lim", limit));
+}
+
 Xml Delimited(const std::u16string& open, const std::u16string& close, const Xml& content) {
   Xml props = "<m:dPr><m:begChr m:val=\"" + Escape(open) + "\"/><m:endChr m:val=\"" +
               Escape(close) + "\"/></m:dPr>";

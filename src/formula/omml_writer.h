@@ -33,6 +33,8 @@ Xml Bar(const Xml& base, bool top = true);
 Xml Accent(const std::u16string& character, const Xml& base);
 // A character stretched over the base: U+23DC (the arc over a chord).
 Xml GroupCharacter(const std::u16string& character, const Xml& base);
+// A text over the base, smaller: the reading over characters.
+Xml UpperLimit(const Xml& base, const Xml& limit);
 // Delimiters around the content; an empty one is not drawn.
 Xml Delimited(const std::u16string& open, const std::u16string& close, const Xml& content);
 Xml EquationArray(const std::vector<Xml>& rows);

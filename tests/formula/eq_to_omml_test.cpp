@@ -173,6 +173,12 @@ TEST(EqToOmml, WordsOwnFields) {
            {">y</m:t></m:r><m:r><m:rPr><m:nor/></m:rPr><w:rPr><w:sz w:val=\"21\"/></w:rPr>"
             "<m:t xml:space=\"preserve\"> </m:t></m:r><m:r>"}},
           {"BlanksAroundSignsSetTheCodeOut", u"EQ x2 + 3 x", {">2</m:t></m:r><m:r><w:rPr><w:sz"}},
+          {"PhoneticGuide",
+           u"EQ \\* jc2 \\* \"Font:宋体\" \\* hps10 \\o\\ad(\\s\\up 9(pīn),拼)",
+           {"<m:oMath><m:limUpp><m:e><m:r><w:rPr><w:sz w:val=\"21\"/></w:rPr><m:t "
+            "xml:space=\"preserve\">拼</m:t></m:r></m:e><m:lim><m:r>",
+            "</m:lim></m:limUpp></m:oMath>"}},
+          {"FormatSwitchAtTheEnd", u"EQ \\F(1,2) \\* MERGEFORMAT", {"</m:den></m:f></m:oMath>"}},
           {"CircledNumber", u"eq \\o\\ac(○,3)", {">③</m:t>"}},
           {"CircledTwenty", u"eq \\o\\ac(◯,20)", {">⑳</m:t>"}},
           {"CircledFifty", u"eq \\o\\ac(○,50)", {">㊿</m:t>"}},
