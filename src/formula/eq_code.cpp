@@ -1,6 +1,7 @@
 #include "formula/eq_code.h"
 
 #include <algorithm>
+#include <optional>
 #include <string_view>
 
 namespace lp {
@@ -47,7 +48,7 @@ struct Options {
   bool bracketsSet = false;
   char16_t sign = u'∫';  // of an integral: \SU, \PR or the character of \FC and \VC
   bool beside = false, grows = false;
-  long points = 0;  // of a displacement: forward, or back when negative
+  long points = 0;  // of a displacement: forward, or back when negative; of a script: how far
   bool line = false;
 };
 
@@ -68,6 +69,13 @@ char16_t Enclosure(const EqRow& part) {
   const char16_t c = LoneCharacter(part);
   if (c == u'◯') return u'○';
   return c && std::u16string_view(u"○□△◇").find(c) != std::u16string_view::npos ? c : 0;
+}
+
+// A script raised further than the raised script right before it, as Word
+// writes t² in an exponent: a script of that script's text.
+bool RaisedHigher(const EqNode& n, const EqRow& row) {
+  if (n.kind != EqKind::kRaised || row.empty() || row.back().kind != EqKind::kRaised) return false;
+  return row.back().points > 0 && n.points > row.back().points;
 }
 
 // The text of a part out of the script that only moves it a little: to
@@ -125,6 +133,8 @@ class EqParser {
         // its height: the script is the integrand's.
         if (IsScript(node) && !row.empty() && row.back().kind == EqKind::kNary)
           row.back().rows[2].push_back(std::move(node));
+        else if (RaisedHigher(node, row))
+          row.back().rows[0].push_back(std::move(node));
         else
           row.push_back(std::move(node));
         continue;
@@ -178,17 +188,17 @@ class EqParser {
     return o;
   }
 
-  // A distance in points; Word writes a small lowering as a negative raise.
-  long Number() {
+  // A number, negative too (Word writes a small lowering as a negative
+  // raise); nothing when the option has none.
+  std::optional<long> Number() {
     SkipBlanks();
-    if (At(pos_) == u'-' && IsDigit(At(pos_ + 1))) ++pos_;
+    const bool negative = At(pos_) == u'-' && IsDigit(At(pos_ + 1));
+    if (negative) ++pos_;
+    if (!IsDigit(At(pos_))) return std::nullopt;
     long n = 0;
-    bool any = false;
-    while (IsDigit(At(pos_)) && n < 1000) {
-      n = n * 10 + (s_[pos_++] - u'0');
-      any = true;
-    }
-    return any ? n : -1;
+    while (IsDigit(At(pos_)) && n < 1000) n = n * 10 + (s_[pos_++] - u'0');
+    while (IsDigit(At(pos_))) ++pos_;
+    return negative ? -n : n;
   }
 
   char16_t BracketChar() {
@@ -204,17 +214,17 @@ class EqParser {
     } else if (word == u"IN") {
       o.beside = true;
     } else if (word == u"FO" || word == u"BA") {
-      const long n = std::max(Number(), 0L);
+      const long n = std::max(Number().value_or(0), 0L);
       o.points = word == u"FO" ? n : -n;
     } else if (word == u"LI") {
       o.line = true;
-    } else if (word == u"UP" || word == u"AI" || word == u"DI" || word == u"VS" || word == u"HS") {
-      Number();
-    } else if (word == u"DO") {
-      o.down = true;
+    } else if (word == u"UP" || word == u"DO") {
+      o.down = word == u"DO";
+      o.points = Number().value_or(0);
+    } else if (word == u"AI" || word == u"DI" || word == u"VS" || word == u"HS") {
       Number();
     } else if (word == u"CO") {
-      o.columns = Number();
+      o.columns = Number().value_or(-1);
     } else if (word == u"LC" || word == u"RC" || word == u"BC") {
       const char16_t b = BracketChar();
       if (!o.bracketsSet) o.open = o.close = 0;  // one side named: the other is not drawn
@@ -258,6 +268,7 @@ class EqParser {
       case u'S':
         if (count != 1) throw EqCodeError("stacked scripts");
         n.kind = o.down ? EqKind::kLowered : EqKind::kRaised;
+        n.points = static_cast<int>(o.points);
         return n;
       case u'O':
         return Overstrike(std::move(n));

@@ -46,7 +46,7 @@ struct EqNode {
   size_t columns = 1;            // kArray
   bool besideLimits = false;     // kNary: limits to the right of the sign, not over and under
   bool grows = false;            // kNary: the sign as tall as the integrand
-  int points = 0;                // kDisplace
+  int points = 0;                // kDisplace; kRaised, kLowered: how far, 0 unsaid
   bool line = false;             // kDisplace
   std::vector<EqRow> rows;
 };

@@ -173,6 +173,10 @@ TEST(EqToOmml, WordsOwnFields) {
            {">y</m:t></m:r><m:r><m:rPr><m:nor/></m:rPr><w:rPr><w:sz w:val=\"21\"/></w:rPr>"
             "<m:t xml:space=\"preserve\"> </m:t></m:r><m:r>"}},
           {"BlanksAroundSignsSetTheCodeOut", u"EQ x2 + 3 x", {">2</m:t></m:r><m:r><w:rPr><w:sz"}},
+          {"ExponentOfExponent",
+           u"EQ \\b(\\r(3) )\\s \\up4(t) \\s \\up7(2)",
+           {"</m:d></m:e><m:sup><m:sSup><m:e><m:r>", ">t</m:t></m:r></m:e><m:sup><m:r>",
+            ">2</m:t></m:r></m:sup></m:sSup></m:sup></m:sSup></m:oMath>"}},
           {"PhoneticGuide",
            u"EQ \\* jc2 \\* \"Font:宋体\" \\* hps10 \\o\\ad(\\s\\up 9(pīn),拼)",
            {"<m:oMath><m:limUpp><m:e><m:r><w:rPr><w:sz w:val=\"21\"/></w:rPr><m:t "
