@@ -60,7 +60,9 @@ Xml Radical(const Xml& degree, const Xml& radicand) {
 }
 
 Xml Scripts(const Xml& base, const Xml& sub, const Xml& sup, bool hasSub, bool hasSup) {
-  Xml e = Wrap("e", base);
+  // A script with nothing before it stands on a zero-width space: an empty
+  // base shows as a placeholder box.
+  Xml e = Wrap("e", base.empty() ? Run(u"\u200B") : base);
   if (hasSub && hasSup) return Wrap("sSubSup", e + Wrap("sub", sub) + Wrap("sup", sup));
   if (hasSup) return Wrap("sSup", e + Wrap("sup", sup));
   if (hasSub) return Wrap("sSub", e + Wrap("sub", sub));

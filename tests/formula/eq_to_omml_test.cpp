@@ -182,6 +182,9 @@ TEST(EqToOmml, WordsOwnFields) {
            {"<m:oMath><m:limUpp><m:e><m:r><w:rPr><w:sz w:val=\"21\"/></w:rPr><m:t "
             "xml:space=\"preserve\">拼</m:t></m:r></m:e><m:lim><m:r>",
             "</m:lim></m:limUpp></m:oMath>"}},
+          {"ScriptWithoutBase",
+           u"EQ \\s\\up8(Super)Text",
+           {"<m:oMath><m:sSup><m:e><m:r>", "\u200B</m:t></m:r></m:e><m:sup>"}},
           {"FormatSwitchAtTheEnd", u"EQ \\F(1,2) \\* MERGEFORMAT", {"</m:den></m:f></m:oMath>"}},
           {"CircledNumber", u"eq \\o\\ac(○,3)", {">③</m:t>"}},
           {"CircledTwenty", u"eq \\o\\ac(◯,20)", {">⑳</m:t>"}},
