@@ -8,11 +8,15 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <memory>
+#include <string_view>
 
 #include <pugixml.hpp>
 
 #include "gallery/drawing_list.h"
+#include "gallery/preset_outline.h"
 #include "gallery/run_text.h"
+#include "gallery/theme_colors.h"
 #include "runtime/utf8.h"
 
 namespace lp::gallery {
@@ -20,23 +24,71 @@ namespace {
 
 constexpr double kEmuPerPoint = 12700;
 
-std::optional<std::string> ReadZipEntry(const std::string& path, const char* entry) {
-  int error = 0;
-  zip_t* zip = zip_open(path.c_str(), ZIP_RDONLY, &error);
-  if (!zip) return std::nullopt;
-  std::optional<std::string> bytes;
-  zip_stat_t stat;
-  if (zip_stat(zip, entry, 0, &stat) == 0 && (stat.valid & ZIP_STAT_SIZE)) {
-    if (zip_file_t* file = zip_fopen(zip, entry, 0)) {
-      std::string data(stat.size, '\0');
-      if (zip_fread(file, data.data(), stat.size) == static_cast<zip_int64_t>(stat.size))
-        bytes = std::move(data);
-      zip_fclose(file);
-    }
+// The entries of a zip file, opened once for all the reads.
+class ZipEntries {
+ public:
+  explicit ZipEntries(const std::string& path) {
+    int error = 0;
+    zip_.reset(zip_open(path.c_str(), ZIP_RDONLY, &error));
   }
-  zip_discard(zip);
-  return bytes;
+
+  std::optional<std::string> Read(const std::string& entry) const {
+    zip_stat_t stat;
+    if (!zip_ || zip_stat(zip_.get(), entry.c_str(), 0, &stat) != 0 ||
+        !(stat.valid & ZIP_STAT_SIZE))
+      return std::nullopt;
+    zip_file_t* file = zip_fopen(zip_.get(), entry.c_str(), 0);
+    if (!file) return std::nullopt;
+    std::string data(stat.size, '\0');
+    const bool whole =
+        zip_fread(file, data.data(), stat.size) == static_cast<zip_int64_t>(stat.size);
+    zip_fclose(file);
+    return whole ? std::optional<std::string>(std::move(data)) : std::nullopt;
+  }
+
+ private:
+  struct Discard {
+    void operator()(zip_t* zip) const { zip_discard(zip); }
+  };
+  std::unique_ptr<zip_t, Discard> zip_;
+};
+
+bool Load(const std::optional<std::string>& bytes, pugi::xml_document& xml) {
+  return bytes && xml.load_buffer(bytes->data(), bytes->size());
 }
+
+// The main document and what its shapes refer to outside it: the theme's
+// colours, and pictures by relationship id.
+class Sources {
+ public:
+  explicit Sources(const std::string& path) : zip_(path) {
+    Load(zip_.Read("word/_rels/document.xml.rels"), rels_);
+    for (pugi::xml_node r : rels_.child("Relationships").children("Relationship"))
+      if (std::string_view(r.attribute("Type").value()).ends_with("/theme"))
+        if (Load(zip_.Read(PartOf(r)), themeXml_)) theme_ = ThemeColors(themeXml_.child("a:theme"));
+  }
+
+  std::optional<std::string> Body() const { return zip_.Read("word/document.xml"); }
+  const ThemeColors& Theme() const { return theme_; }
+
+  // The bytes of the picture the relationship names; empty when missing.
+  std::string Picture(const char* id) const {
+    pugi::xml_node r =
+        rels_.child("Relationships").find_child_by_attribute("Relationship", "Id", id);
+    if (!r || std::strcmp(r.attribute("TargetMode").value(), "External") == 0) return {};
+    return zip_.Read(PartOf(r)).value_or("");
+  }
+
+ private:
+  static std::string PartOf(pugi::xml_node relationship) {
+    const std::string target = relationship.attribute("Target").value();
+    return target.starts_with('/') ? target.substr(1) : "word/" + target;
+  }
+
+  ZipEntries zip_;
+  pugi::xml_document rels_, themeXml_;
+  ThemeColors theme_;
+};
 
 double Emu(pugi::xml_node node, const char* attribute) {
   return node.attribute(attribute).as_double() / kEmuPerPoint;
@@ -79,22 +131,19 @@ Box BoxOf(pugi::xml_node xfrm) {
   return box;
 }
 
-long ColorOf(pugi::xml_node fillParent, long fallback) {
-  pugi::xml_node rgb = fillParent.child("a:solidFill").child("a:srgbClr");
-  if (!rgb) return fallback;
-  return std::strtol(rgb.attribute("val").value(), nullptr, 16);
-}
-
-Stroke StrokeOf(pugi::xml_node wsp) {
+Stroke StrokeOf(pugi::xml_node wsp, const ThemeColors& theme) {
   Stroke stroke;
   pugi::xml_node ln = wsp.child("wps:spPr").child("a:ln");
-  if (!ln) {
-    stroke.visible = wsp.child("wps:style").child("a:lnRef").attribute("idx").as_int() > 0;
-    return stroke;
+  pugi::xml_node style = wsp.child("wps:style");
+  const std::optional<long> color = theme.LineColorOf(ln, style);
+  stroke.visible = color.has_value();
+  stroke.rgb = color.value_or(0);
+  if (ln.attribute("w")) {
+    stroke.width = Emu(ln, "w");
+  } else if (const double w =
+                 theme.LineStyleWidth(style.child("a:lnRef").attribute("idx").as_int())) {
+    stroke.width = w / kEmuPerPoint;
   }
-  stroke.visible = !ln.child("a:noFill");
-  stroke.rgb = ColorOf(ln, 0);
-  if (ln.attribute("w")) stroke.width = Emu(ln, "w");
   const char* dash = ln.child("a:prstDash").attribute("val").value();
   stroke.dashed = *dash && std::strcmp(dash, "solid") != 0;
   const auto arrow = [](pugi::xml_node end) {
@@ -106,89 +155,81 @@ Stroke StrokeOf(pugi::xml_node wsp) {
   return stroke;
 }
 
-Fill FillOf(pugi::xml_node wsp) {
-  pugi::xml_node spPr = wsp.child("wps:spPr");
+Fill FillOf(pugi::xml_node wsp, const ThemeColors& theme) {
   Fill fill;
-  fill.visible = static_cast<bool>(spPr.child("a:solidFill"));
-  fill.rgb = ColorOf(spPr, 0xFFFFFF);
+  if (std::optional<long> color = theme.FillOf(wsp.child("wps:spPr"), wsp.child("wps:style"))) {
+    fill.visible = true;
+    fill.rgb = *color;
+  }
   return fill;
 }
 
-PathStep Step(PathStep::Kind kind, std::vector<Point> points) {
-  return PathStep{kind, std::move(points)};
-}
-
-// The custom geometry's paths, scaled from each path's own size to the box.
-std::vector<PathStep> CustomPath(pugi::xml_node custGeom, const Box& box, const Map& map) {
-  std::vector<PathStep> steps;
-  for (pugi::xml_node path : custGeom.child("a:pathLst").children("a:path")) {
-    const double w = path.attribute("w").as_double(), h = path.attribute("h").as_double();
-    const auto at = [&](pugi::xml_node pt) {
-      double x = w > 0 ? pt.attribute("x").as_double() / w * box.cx : 0;
-      double y = h > 0 ? pt.attribute("y").as_double() / h * box.cy : 0;
-      if (box.flipH) x = box.cx - x;
-      if (box.flipV) y = box.cy - y;
-      return Place(box, map, box.x + x, box.y + y);
-    };
-    for (pugi::xml_node command : path.children()) {
-      std::vector<Point> points;
-      for (pugi::xml_node pt : command.children("a:pt")) points.push_back(at(pt));
-      const std::string name = command.name();
-      if (name == "a:moveTo") steps.push_back(Step(PathStep::kMove, points));
-      if (name == "a:lnTo") steps.push_back(Step(PathStep::kLine, points));
-      if (name == "a:cubicBezTo") steps.push_back(Step(PathStep::kCubic, points));
-      if (name == "a:close") steps.push_back(Step(PathStep::kClose, {}));
+// Where a point of a shape's own box (from 0, 0 to its size) lands in the
+// figure: mirrored as the shape is, mapped, then turned with it.
+std::vector<PathStep> Placed(std::vector<PathStep> steps, const Box& box, const Map& map) {
+  for (PathStep& step : steps) {
+    for (Point& p : step.points) {
+      const double x = box.flipH ? box.cx - p.x : p.x, y = box.flipV ? box.cy - p.y : p.y;
+      p = Place(box, map, box.x + x, box.y + y);
     }
   }
   return steps;
 }
 
-// A preset outline by corners of the box, in fractions of its size.
-std::vector<PathStep> Polygon(const Box& box, const Map& map,
-                              std::initializer_list<std::pair<double, double>> corners) {
+// A path of a custom geometry, scaled from the path's own size to the box.
+std::vector<PathStep> CustomPath(pugi::xml_node path, const Box& box) {
+  const double w = path.attribute("w").as_double(), h = path.attribute("h").as_double();
+  const auto at = [&](pugi::xml_node pt) {
+    return Point{w > 0 ? pt.attribute("x").as_double() / w * box.cx : 0,
+                 h > 0 ? pt.attribute("y").as_double() / h * box.cy : 0};
+  };
   std::vector<PathStep> steps;
-  for (const auto& [fx, fy] : corners) {
-    const double x = box.flipH ? 1 - fx : fx, y = box.flipV ? 1 - fy : fy;
-    steps.push_back(Step(steps.empty() ? PathStep::kMove : PathStep::kLine,
-                         {Place(box, map, box.x + x * box.cx, box.y + y * box.cy)}));
+  for (pugi::xml_node command : path.children()) {
+    std::vector<Point> points;
+    for (pugi::xml_node pt : command.children("a:pt")) points.push_back(at(pt));
+    const std::string name = command.name();
+    if (name == "a:moveTo") steps.push_back({PathStep::kMove, points});
+    if (name == "a:lnTo") steps.push_back({PathStep::kLine, points});
+    if (name == "a:cubicBezTo") steps.push_back({PathStep::kCubic, points});
+    if (name == "a:close") steps.push_back({PathStep::kClose, {}});
   }
-  steps.push_back(Step(PathStep::kClose, {}));
   return steps;
 }
 
-std::vector<PathStep> PresetPath(const std::string& preset, const Box& box, const Map& map) {
-  if (preset == "line" || preset.rfind("straightConnector", 0) == 0) {
-    std::vector<PathStep> steps = Polygon(box, map, {{0, 0}, {1, 1}});
-    steps.pop_back();
-    return steps;
-  }
-  if (preset == "flowChartDecision" || preset == "diamond")
-    return Polygon(box, map, {{0.5, 0}, {1, 0.5}, {0.5, 1}, {0, 0.5}});
-  if (preset == "flowChartInputOutput" || preset == "parallelogram")
-    return Polygon(box, map, {{0.2, 0}, {1, 0}, {0.8, 1}, {0, 1}});
-  if (preset == "triangle") return Polygon(box, map, {{0.5, 0}, {1, 1}, {0, 1}});
-  if (preset == "rtTriangle") return Polygon(box, map, {{0, 0}, {1, 1}, {0, 1}});
-  return Polygon(box, map, {{0, 0}, {1, 0}, {1, 1}, {0, 1}});
-}
-
-void ReadShape(pugi::xml_node wsp, const Map& map, DrawingList& list) {
+// The outline of a shape: a path, or an ellipse kept whole.
+void ReadOutline(pugi::xml_node wsp, const Box& box, const Map& map, const ThemeColors& theme,
+                 DrawingList& list) {
   pugi::xml_node spPr = wsp.child("wps:spPr");
-  const Box box = BoxOf(spPr.child("a:xfrm"));
   Item item;
-  item.stroke = StrokeOf(wsp);
-  item.fill = FillOf(wsp);
-  const std::string preset = spPr.child("a:prstGeom").attribute("prst").value();
+  item.stroke = StrokeOf(wsp, theme);
+  item.fill = FillOf(wsp, theme);
   if (pugi::xml_node custom = spPr.child("a:custGeom")) {
-    item.path = CustomPath(custom, box, map);
-  } else if (preset == "ellipse" || preset == "flowChartConnector") {
+    // A path may be there only to be outlined, or only to be filled: an
+    // arc's outline is open, its filled piece a slice.
+    for (pugi::xml_node path : custom.child("a:pathLst").children("a:path")) {
+      Item part = item;
+      part.path = Placed(CustomPath(path, box), box, map);
+      part.stroke.visible = item.stroke.visible && path.attribute("stroke").as_bool(true);
+      part.fill.visible = item.fill.visible && std::strcmp(path.attribute("fill").value(), "none");
+      list.items.push_back(part);
+    }
+    return;
+  }
+  pugi::xml_node geometry = spPr.child("a:prstGeom");
+  const std::string preset = geometry.attribute("prst").value();
+  if (preset == "ellipse" || preset == "flowChartConnector") {
     item.kind = Item::kEllipse;
     item.rotation = box.rotation;
     item.topLeft = map(box.x, box.y);
     item.bottomRight = map(box.x + box.cx, box.y + box.cy);
   } else {
-    item.path = PresetPath(preset, box, map);
+    item.path = Placed(PresetOutline(preset, box.cx, box.cy, geometry.child("a:avLst")), box, map);
   }
   list.items.push_back(item);
+}
+
+void ReadTextBox(pugi::xml_node wsp, const Box& box, const Map& map, const ThemeColors& theme,
+                 DrawingList& list) {
   pugi::xml_node content = wsp.child("wps:txbx").child("w:txbxContent");
   if (!content) return;
   Item text;
@@ -200,13 +241,61 @@ void ReadShape(pugi::xml_node wsp, const Map& map, DrawingList& list) {
   pugi::xml_node bodyPr = wsp.child("wps:bodyPr");
   if (bodyPr.attribute("lIns")) text.insetLeft = Emu(bodyPr, "lIns");
   if (bodyPr.attribute("tIns")) text.insetTop = Emu(bodyPr, "tIns");
-  text.lines = ReadParagraphs(content);
+  if (bodyPr.attribute("bIns")) text.insetBottom = Emu(bodyPr, "bIns");
+  const char* anchor = bodyPr.attribute("anchor").value();
+  text.anchor = std::strcmp(anchor, "ctr") == 0 ? 1 : std::strcmp(anchor, "b") == 0 ? 2 : 0;
+  // Text with no colour of its own takes the one the shape's style gives.
+  text.lines =
+      ReadParagraphs(content, theme.ColorIn(wsp.child("wps:style").child("a:fontRef")).value_or(0));
   list.items.push_back(text);
 }
 
-void ReadGraphic(pugi::xml_node graphic, const Map& map, DrawingList& list) {
+void ReadShape(pugi::xml_node wsp, const Map& map, const ThemeColors& theme, DrawingList& list) {
+  const Box box = BoxOf(wsp.child("wps:spPr").child("a:xfrm"));
+  ReadOutline(wsp, box, map, theme, list);
+  ReadTextBox(wsp, box, map, theme, list);
+}
+
+// A flipped or turned group mirrors, then turns, what it holds about its
+// centre; text moves with its box but still reads left to right.
+void TurnWithGroup(Item& item, const Box& group, Point centre) {
+  if (!group.flipH && !group.flipV && group.rotation == 0) return;
+  const auto move = [&](Point p) {
+    if (group.flipH) p.x = 2 * centre.x - p.x;
+    if (group.flipV) p.y = 2 * centre.y - p.y;
+    return Turned(p, centre, group.rotation);
+  };
+  for (PathStep& step : item.path)
+    for (Point& p : step.points) p = move(p);
+  if (item.kind == Item::kPath) return;
+  const Point half{(item.bottomRight.x - item.topLeft.x) / 2,
+                   (item.bottomRight.y - item.topLeft.y) / 2};
+  const Point middle = move({item.topLeft.x + half.x, item.topLeft.y + half.y});
+  item.topLeft = {middle.x - half.x, middle.y - half.y};
+  item.bottomRight = {middle.x + half.x, middle.y + half.y};
+  if (group.flipH != group.flipV) item.rotation = -item.rotation;
+  item.rotation += group.rotation;
+}
+
+// A picture keeps its file's bytes; the painter decodes them.
+void ReadPicture(pugi::xml_node pic, const Map& map, const Sources& sources, DrawingList& list) {
+  const Box box = BoxOf(pic.child("pic:spPr").child("a:xfrm"));
+  Item item;
+  item.kind = Item::kPicture;
+  item.stroke.visible = false;
+  item.rotation = box.rotation;
+  item.topLeft = map(box.x, box.y);
+  item.bottomRight = map(box.x + box.cx, box.y + box.cy);
+  item.picture =
+      sources.Picture(pic.child("pic:blipFill").child("a:blip").attribute("r:embed").value());
+  if (!item.picture.empty()) list.items.push_back(std::move(item));
+}
+
+void ReadGraphic(pugi::xml_node graphic, const Map& map, const Sources& sources,
+                 DrawingList& list) {
   const std::string name = graphic.name();
-  if (name == "wps:wsp") return ReadShape(graphic, map, list);
+  if (name == "wps:wsp") return ReadShape(graphic, map, sources.Theme(), list);
+  if (name == "pic:pic") return ReadPicture(graphic, map, sources, list);
   if (name != "wpg:wgp" && name != "wpg:grpSp") return;
   pugi::xml_node xfrm = graphic.child("wpg:grpSpPr").child("a:xfrm");
   const Box box = BoxOf(xfrm);
@@ -218,16 +307,20 @@ void ReadGraphic(pugi::xml_node graphic, const Map& map, DrawingList& list) {
   inner.tx = box.x - chx * inner.sx;
   inner.ty = box.y - chy * inner.sy;
   const Map childMap = map.Then(inner);
-  for (pugi::xml_node child : graphic.children()) ReadGraphic(child, childMap, list);
+  const size_t first = list.items.size();
+  for (pugi::xml_node child : graphic.children()) ReadGraphic(child, childMap, sources, list);
+  const Point centre = map(box.x + box.cx / 2, box.y + box.cy / 2);
+  for (size_t i = first; i < list.items.size(); ++i) TurnWithGroup(list.items[i], box, centre);
 }
 
 pugi::xml_node GraphicOf(pugi::xml_node anchor) {
   return anchor.child("a:graphic").child("a:graphicData").first_child();
 }
 
-std::vector<pugi::xml_node> AnchorsOf(pugi::xml_node body) {
+// The drawings (wp:anchor or wp:inline) of the body.
+std::vector<pugi::xml_node> DrawingsOf(pugi::xml_node body, const char* kind) {
   std::vector<pugi::xml_node> anchors;
-  for (pugi::xpath_node x : body.select_nodes(".//wp:anchor")) {
+  for (pugi::xpath_node x : body.select_nodes((std::string(".//") + kind).c_str())) {
     // Shapes inside text boxes and the fallbacks of older readers are not figures.
     bool nested = false;
     for (pugi::xml_node up = x.node().parent(); up && up != body; up = up.parent())
@@ -267,6 +360,15 @@ void Normalise(DrawingList& list) {
   list.height = high.y - low.y;
 }
 
+// Drawings in line with the text stand side by side, as a line shows them.
+void ReadInlineDrawings(pugi::xml_node body, const Sources& sources, DrawingList& list) {
+  Map inLine;
+  for (pugi::xml_node drawing : DrawingsOf(body, "wp:inline")) {
+    ReadGraphic(GraphicOf(drawing), inLine, sources, list);
+    inLine.tx += Emu(drawing.child("wp:extent"), "cx");
+  }
+}
+
 std::u16string NameOf(pugi::xml_node anchor) {
   return FromUtf8(anchor.child("wp:docPr").attribute("name").value());
 }
@@ -275,26 +377,27 @@ std::u16string NameOf(pugi::xml_node anchor) {
 
 std::optional<DrawingList> ReadDrawingList(const std::string& path,
                                            const std::vector<std::u16string>& names) {
-  auto bytes = ReadZipEntry(path, "word/document.xml");
+  const Sources sources(path);
   pugi::xml_document xml;
-  if (!bytes || !xml.load_buffer(bytes->data(), bytes->size())) return std::nullopt;
+  if (!Load(sources.Body(), xml)) return std::nullopt;
   pugi::xml_node body = xml.document_element().child("w:body");
   if (!body) return std::nullopt;
   DrawingList list;
-  for (pugi::xml_node anchor : AnchorsOf(body)) {
+  for (pugi::xml_node anchor : DrawingsOf(body, "wp:anchor")) {
     if (!names.empty() && std::find(names.begin(), names.end(), NameOf(anchor)) == names.end())
       continue;
     list.names.push_back(NameOf(anchor));
     Map page;
     page.tx = anchor.child("wp:positionH").child("wp:posOffset").text().as_double() / kEmuPerPoint;
     page.ty = anchor.child("wp:positionV").child("wp:posOffset").text().as_double() / kEmuPerPoint;
-    ReadGraphic(GraphicOf(anchor), page, list);
+    ReadGraphic(GraphicOf(anchor), page, sources, list);
   }
+  if (list.items.empty() && names.empty()) ReadInlineDrawings(body, sources, list);
   if (list.items.empty() && names.empty()) {
     Item text;
     text.kind = Item::kText;
     text.stroke.visible = false;
-    text.insetLeft = text.insetTop = 0;
+    text.insetLeft = text.insetTop = text.insetBottom = 0;
     text.lines = ReadParagraphs(body);
     if (!text.lines.empty()) list.items.push_back(text);
     return list;

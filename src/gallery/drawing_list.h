@@ -53,14 +53,16 @@ struct TextLine {
 };
 
 struct Item {
-  enum Kind { kPath, kEllipse, kText } kind = kPath;
+  enum Kind { kPath, kEllipse, kText, kPicture } kind = kPath;
   Stroke stroke;
   Fill fill;
   std::vector<PathStep> path;   // kPath
-  Point topLeft, bottomRight;   // kEllipse, and the box of kText
+  Point topLeft, bottomRight;   // the box of kEllipse, kText and kPicture
   std::vector<TextLine> lines;  // kText: text inside the box's margins
-  double insetLeft = 7.2, insetTop = 3.6;
-  // Ellipses and text turn by this many degrees, clockwise, about the
+  std::string picture;          // kPicture: the bytes of the image file
+  double insetLeft = 7.2, insetTop = 3.6, insetBottom = 3.6;
+  int anchor = 0;  // kText: its lines stand at the top (0), middle (1) or bottom (2)
+  // Ellipses, text and pictures turn by this many degrees, clockwise, about the
   // centre of their box; paths come with their points turned.
   double rotation = 0;
 };
@@ -75,8 +77,9 @@ struct DrawingList {
 };
 
 // The floating shapes of a .docx file (only those named in `names` when
-// any are given), or, when it holds none, the text and formulas of its body
-// as lines. Nothing when the file is not a readable Word document.
+// any are given); when it holds none, its drawings in line with the text,
+// or else the text and formulas of its body as lines. Nothing when the file
+// is not a readable Word document.
 std::optional<DrawingList> ReadDrawingList(const std::string& path,
                                            const std::vector<std::u16string>& names = {});
 

@@ -139,6 +139,13 @@ std::vector<LineBox> LayOutLines(const std::vector<TextLine>& lines, double scal
   return boxes;
 }
 
+// Lines stand 1.15 times their height apart.
+double HeightOf(const std::vector<LineBox>& lines) {
+  double height = 0;
+  for (const LineBox& line : lines) height += (line.ascent + line.descent) * 1.15;
+  return height;
+}
+
 void PaintLines(QPainter& painter, const std::vector<LineBox>& lines, QPointF topLeft,
                 double boxWidth, double scale) {
   double y = topLeft.y();
@@ -219,14 +226,22 @@ void PaintItem(QPainter& painter, const Item& item, double scale, QPointF origin
   painter.setBrush(item.fill.visible ? QBrush(ColorOf(item.fill.rgb)) : QBrush(Qt::NoBrush));
   if (item.kind == Item::kEllipse) {
     painter.drawEllipse(box);
+  } else if (item.kind == Item::kPicture) {
+    // A format Qt cannot read (a metafile) leaves its place blank.
+    const QImage picture = QImage::fromData(
+        QByteArray::fromRawData(item.picture.data(), static_cast<qsizetype>(item.picture.size())));
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    if (!picture.isNull()) painter.drawImage(box, picture);
   } else if (item.kind == Item::kPath) {
     const QPainterPath path = PathOf(item.path, scale, origin);
     painter.drawPath(path);
     if (item.stroke.visible) PaintArrows(painter, path, item.stroke, scale);
   } else {
-    const QPointF inset(item.insetLeft * scale, item.insetTop * scale);
-    const std::vector<LineBox> lines = LayOutLines(item.lines, scale, box.width() - 2 * inset.x());
-    PaintLines(painter, lines, box.topLeft() + inset, box.width() - 2 * inset.x(), scale);
+    const double inner = box.width() - 2 * item.insetLeft * scale;
+    const std::vector<LineBox> lines = LayOutLines(item.lines, scale, inner);
+    const double room = box.height() - (item.insetTop + item.insetBottom) * scale - HeightOf(lines);
+    const QPointF start(item.insetLeft * scale, item.insetTop * scale + room * item.anchor / 2);
+    PaintLines(painter, lines, box.topLeft() + start, inner, scale);
   }
   painter.restore();
 }
@@ -236,13 +251,10 @@ DrawingList Measured(const DrawingList& drawing, double scale) {
   DrawingList sized = drawing;
   if (sized.width > 0 || sized.items.empty()) return sized;
   const std::vector<LineBox> lines = LayOutLines(sized.items[0].lines, scale);
-  double width = 0, height = 0;
-  for (const LineBox& line : lines) {
-    width = std::max(width, line.width);
-    height += (line.ascent + line.descent) * 1.15;
-  }
+  double width = 0;
+  for (const LineBox& line : lines) width = std::max(width, line.width);
   sized.width = width / scale;
-  sized.height = height / scale;
+  sized.height = HeightOf(lines) / scale;
   sized.items[0].bottomRight = {sized.width, sized.height};
   return sized;
 }

@@ -25,8 +25,9 @@ bool On(pugi::xml_node property) {
   return !*val || (std::strcmp(val, "0") != 0 && std::strcmp(val, "false") != 0);
 }
 
-TextRun StyleOf(pugi::xml_node run) {
+TextRun StyleOf(pugi::xml_node run, long textRgb) {
   TextRun style;
+  style.rgb = textRgb;
   pugi::xml_node rPr = run.child("w:rPr");
   if (pugi::xml_node sz = rPr.child("w:sz")) style.size = sz.attribute("w:val").as_double() / 2;
   style.italic = On(rPr.child("w:i"));
@@ -82,6 +83,8 @@ bool AloneIn(pugi::xml_node paragraph, pugi::xml_node math) {
 // fields show their result.
 class LineReader {
  public:
+  explicit LineReader(long textRgb) : textRgb_(textRgb) {}
+
   TextLine Read(pugi::xml_node paragraph) {
     const char* jc = paragraph.child("w:pPr").child("w:jc").attribute("w:val").value();
     line_.alignment = std::strcmp(jc, "center") == 0 ? 1 : std::strcmp(jc, "right") == 0 ? 2 : 0;
@@ -124,7 +127,7 @@ class LineReader {
   // Fields nest: a SYMBOL field inside an EQ code stands for its character.
   void Mark(const char* type, pugi::xml_node run) {
     if (std::strcmp(type, "begin") == 0) {
-      if (codes_.empty()) codeStyle_ = StyleOf(run);
+      if (codes_.empty()) codeStyle_ = StyleOf(run, textRgb_);
       codes_.emplace_back();
     } else if (std::strcmp(type, "separate") == 0) {
       inResult_ = codes_.size() == 1;
@@ -154,7 +157,7 @@ class LineReader {
   }
 
   void Add(pugi::xml_node run, const std::u16string& text) {
-    TextRun piece = StyleOf(run);
+    TextRun piece = StyleOf(run, textRgb_);
     piece.text = text;
     if (!line_.runs.empty() && !line_.runs.back().formula) {
       TextRun& last = line_.runs.back();
@@ -167,6 +170,7 @@ class LineReader {
     line_.runs.push_back(piece);
   }
 
+  const long textRgb_;
   TextLine line_;
   std::vector<std::u16string> codes_;  // the codes of the open fields, outermost first
   bool inResult_ = false;
@@ -253,9 +257,9 @@ std::u16string OmmlToLatex(pugi::xml_node math, bool display) {
   return OmmlWriter(display).Children(math);
 }
 
-std::vector<TextLine> ReadParagraphs(pugi::xml_node story) {
+std::vector<TextLine> ReadParagraphs(pugi::xml_node story, long textRgb) {
   std::vector<TextLine> lines;
-  for (pugi::xml_node p : story.children("w:p")) lines.push_back(LineReader().Read(p));
+  for (pugi::xml_node p : story.children("w:p")) lines.push_back(LineReader(textRgb).Read(p));
   while (!lines.empty() && lines.back().runs.empty()) lines.pop_back();
   return lines;
 }

@@ -10,7 +10,8 @@
 
 namespace lp::gallery {
 
-std::vector<TextLine> ReadParagraphs(pugi::xml_node story);
+// Runs with no colour of their own are `textRgb`.
+std::vector<TextLine> ReadParagraphs(pugi::xml_node story, long textRgb = 0);
 
 // A native equation (m:oMath) as LaTeX for the formula typesetter; a
 // displayed one (alone in its paragraph) sets its fractions at full size.

@@ -60,12 +60,15 @@ std::optional<long> AnchorPosition(word::Document& document, const std::u16strin
   return low;
 }
 
-// Selected text is saved for its formulas; plain text alone is no picture.
-bool HoldsFormula(const DrawingList& drawing) {
-  for (const Item& item : drawing.items)
+// Selected text is saved for its formulas and drawings; plain text alone is
+// no picture.
+bool HoldsFormulaOrDrawing(const DrawingList& drawing) {
+  for (const Item& item : drawing.items) {
+    if (item.kind != Item::kText) return true;
     for (const TextLine& line : item.lines)
       for (const TextRun& run : line.runs)
         if (run.formula) return true;
+  }
   return false;
 }
 
@@ -98,7 +101,7 @@ SelectionExport ExportSelection(Session& session, const std::string& path) {
     if (!span) span = document.Content();
     // The shapes are found again by name in the exported body.
     span->ExportFragment(FromUtf8(path));
-  } else if (type == word::wdSelectionNormal) {
+  } else if (type == word::wdSelectionNormal || type == word::wdSelectionInlineShape) {
     selection.Range()->ExportFragment(FromUtf8(path));
   } else {
     result.error = u"请先选中要保存的图形或公式！";
@@ -109,7 +112,8 @@ SelectionExport ExportSelection(Session& session, const std::string& path) {
 SelectionPicture ReadSelectionPicture(const std::string& path, const SelectionExport& exported) {
   SelectionPicture picture;
   std::optional<DrawingList> drawing = ReadDrawingList(path, exported.shapeNames);
-  if (!drawing || drawing->Empty() || (exported.shapeNames.empty() && !HoldsFormula(*drawing))) {
+  if (!drawing || drawing->Empty() ||
+      (exported.shapeNames.empty() && !HoldsFormulaOrDrawing(*drawing))) {
     picture.error = u"选中的内容里没有可以保存的图形或公式！";
     return picture;
   }
