@@ -196,6 +196,13 @@ std::vector<PathStep> CustomPath(pugi::xml_node path, const Box& box) {
   return steps;
 }
 
+// Ellipses, text and pictures fill the shape's box and turn with it.
+void PutInBox(Item& item, const Box& box, const Map& map) {
+  item.rotation = box.rotation;
+  item.topLeft = map(box.x, box.y);
+  item.bottomRight = map(box.x + box.cx, box.y + box.cy);
+}
+
 // The outline of a shape: a path, or an ellipse kept whole.
 void ReadOutline(pugi::xml_node wsp, const Box& box, const Map& map, const ThemeColors& theme,
                  DrawingList& list) {
@@ -219,9 +226,7 @@ void ReadOutline(pugi::xml_node wsp, const Box& box, const Map& map, const Theme
   const std::string preset = geometry.attribute("prst").value();
   if (preset == "ellipse" || preset == "flowChartConnector") {
     item.kind = Item::kEllipse;
-    item.rotation = box.rotation;
-    item.topLeft = map(box.x, box.y);
-    item.bottomRight = map(box.x + box.cx, box.y + box.cy);
+    PutInBox(item, box, map);
   } else {
     item.path = Placed(PresetOutline(preset, box.cx, box.cy, geometry.child("a:avLst")), box, map);
   }
@@ -235,9 +240,7 @@ void ReadTextBox(pugi::xml_node wsp, const Box& box, const Map& map, const Theme
   Item text;
   text.kind = Item::kText;
   text.stroke.visible = false;
-  text.rotation = box.rotation;
-  text.topLeft = map(box.x, box.y);
-  text.bottomRight = map(box.x + box.cx, box.y + box.cy);
+  PutInBox(text, box, map);
   pugi::xml_node bodyPr = wsp.child("wps:bodyPr");
   if (bodyPr.attribute("lIns")) text.insetLeft = Emu(bodyPr, "lIns");
   if (bodyPr.attribute("tIns")) text.insetTop = Emu(bodyPr, "tIns");
@@ -283,9 +286,7 @@ void ReadPicture(pugi::xml_node pic, const Map& map, const Sources& sources, Dra
   Item item;
   item.kind = Item::kPicture;
   item.stroke.visible = false;
-  item.rotation = box.rotation;
-  item.topLeft = map(box.x, box.y);
-  item.bottomRight = map(box.x + box.cx, box.y + box.cy);
+  PutInBox(item, box, map);
   item.picture =
       sources.Picture(pic.child("pic:blipFill").child("a:blip").attribute("r:embed").value());
   if (!item.picture.empty()) list.items.push_back(std::move(item));
