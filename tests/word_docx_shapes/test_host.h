@@ -2,6 +2,7 @@
 // A stand-in for the text engine: a document.xml in memory with one paragraph
 // that takes the anchors, and a record of what the shape layer asked of it.
 
+#include <optional>
 #include <sstream>
 #include <string>
 
@@ -41,8 +42,10 @@ class TestHost : public word::docx::DocxHost {
     live.Select(anchors, replace);
   }
   std::vector<pugi::xml_node> SelectedShapes() override { return live.Selected(); }
+  std::optional<float> ParagraphTop(pugi::xml_node) override { return paragraphTop; }
 
   pugi::xml_document document;
+  std::optional<float> paragraphTop;  // where the text engine would put the caret's paragraph
   unsigned lastId = 0;
   int changes = 0;
   pugi::xml_node lastStory;

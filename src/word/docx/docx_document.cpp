@@ -296,6 +296,19 @@ std::pair<long, long> DocxDocument::CaretPage() {
   return {caret.pageStart, std::max(caret.pageStart, caret.pageEnd)};
 }
 
+std::optional<float> DocxDocument::ParagraphTop(pugi::xml_node anchor) {
+  pugi::xml_node paragraph = anchor;
+  while (paragraph && !Named(paragraph, "w:p")) paragraph = paragraph.parent();
+  const StoryIndex& ix = main_->Index();
+  long start = 0;
+  for (size_t mark : ix.paragraphs) {
+    const Segment& s = ix.segments[mark];
+    if (s.node == paragraph) return EstimateCaret(ix, Styles(), Geometry(), start).paragraphY;
+    start = s.pos + 1;
+  }
+  return std::nullopt;
+}
+
 std::unique_ptr<Template> DocxDocument::AttachedTemplate() {
   std::string path = settings_->AttachedTemplate();
   return std::make_unique<DocxTemplate>(lp::FromUtf8(path.empty() ? "Normal.dotm" : path));

@@ -151,6 +151,7 @@ CaretEstimate EstimateCaret(const StoryIndex& ix, const StyleSheet& styles,
       float line = std::floor(before / (textWidth - p.indent));
       caret.x = page.left + p.indent + (before - line * (textWidth - p.indent));
       caret.y = page.top + y + p.before + std::min(line, lines - 1) * p.lineHeight;
+      caret.paragraphY = page.top + y;
       caret.page = pageNo;
       caret.pageStart = pageStart;
       found = true;

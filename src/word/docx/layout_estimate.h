@@ -22,7 +22,8 @@ struct PageGeometry {
 PageGeometry ReadPageGeometry(pugi::xml_node sectPr);
 
 struct CaretEstimate {
-  float x = 0, y = 0;  // points from the page's left and top edges
+  float x = 0, y = 0;    // points from the page's left and top edges
+  float paragraphY = 0;  // the top of the caret's paragraph, its spacing before included
   int page = 0;
   // The positions spanned by the paragraphs of the caret's page.
   long pageStart = 0, pageEnd = 0;

@@ -1,9 +1,11 @@
 #include "word/docx/drawing/anchor.h"
 
 #include <cstdlib>
+#include <optional>
 #include <string>
 
 #include "runtime/utf8.h"
+#include "word/docx/host/units.h"
 #include "word/docx/host/xml_order.h"
 
 namespace word::docx::drawing {
@@ -113,6 +115,33 @@ std::string RelativeFromOf(pugi::xml_node anchor, Axis axis) {
 
 void SetRelativeFrom(pugi::xml_node anchor, Axis axis, const char* from) {
   SetAttr(anchor.child(AxisElement(axis)), "relativeFrom", from);
+}
+
+namespace {
+
+std::optional<std::int64_t> ParagraphTopOf(DocxHost& host, pugi::xml_node anchor) {
+  if (std::optional<float> top = host.ParagraphTop(anchor)) return ToEmu(*top);
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::int64_t PageOffsetOf(DocxHost& host, pugi::xml_node anchor, Axis axis) {
+  const std::int64_t offset = OffsetOf(anchor, axis);
+  if (axis != Axis::kVertical || RelativeFromOf(anchor, axis) != "paragraph") return offset;
+  return offset + ParagraphTopOf(host, anchor).value_or(0);
+}
+
+void SetPageOffset(DocxHost& host, pugi::xml_node anchor, Axis axis, std::int64_t emu) {
+  const std::string from = RelativeFromOf(anchor, axis);
+  if (axis == Axis::kVertical && (from == "page" || from == "paragraph")) {
+    if (std::optional<std::int64_t> top = ParagraphTopOf(host, anchor)) {
+      SetRelativeFrom(anchor, axis, "paragraph");
+      SetOffset(anchor, axis, emu - *top);
+      return;
+    }
+  }
+  SetOffset(anchor, axis, emu);
 }
 
 std::int64_t ExtentOf(pugi::xml_node anchor, Axis axis) {

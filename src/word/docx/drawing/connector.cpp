@@ -46,7 +46,7 @@ struct Point {
 };
 
 // Where site (1-based) of the anchored shape lies on the page, in EMU.
-Point SiteOf(pugi::xml_node anchor, long site) {
+Point SiteOf(DocxHost& host, pugi::xml_node anchor, long site) {
   const std::string_view preset =
       GraphicOf(anchor).child("wps:spPr").child("a:prstGeom").attribute("prst").value();
   const auto sites = std::find_if(std::begin(kSites), std::end(kSites),
@@ -54,16 +54,17 @@ Point SiteOf(pugi::xml_node anchor, long site) {
   if (sites == std::end(kSites) || site < 1 || site > 4) throw InvalidArgument();
   const Site at = sites->sites[site - 1];
   const auto along = [&](Axis axis, double fraction) {
-    return OffsetOf(anchor, axis) + std::llround(fraction * ExtentOf(anchor, axis));
+    return PageOffsetOf(host, anchor, axis) + std::llround(fraction * ExtentOf(anchor, axis));
   };
   return {along(Axis::kHorizontal, at.x), along(Axis::kVertical, at.y)};
 }
 
 // The connector's two ends from its frame and flips.
-std::pair<Point, Point> EndsOf(pugi::xml_node anchor) {
+std::pair<Point, Point> EndsOf(DocxHost& host, pugi::xml_node anchor) {
   const pugi::xml_node xfrm = TransformOf(GraphicOf(anchor));
   const bool flipH = xfrm.attribute("flipH").as_bool(), flipV = xfrm.attribute("flipV").as_bool();
-  const std::int64_t x = OffsetOf(anchor, Axis::kHorizontal), y = OffsetOf(anchor, Axis::kVertical);
+  const std::int64_t x = PageOffsetOf(host, anchor, Axis::kHorizontal);
+  const std::int64_t y = PageOffsetOf(host, anchor, Axis::kVertical);
   const std::int64_t cx = ExtentOf(anchor, Axis::kHorizontal);
   const std::int64_t cy = ExtentOf(anchor, Axis::kVertical);
   const Point left{x, y}, right{x + cx, y + cy};
@@ -76,9 +77,9 @@ void SetFlip(pugi::xml_node xfrm, const char* name, bool on) {
   if (on) xfrm.append_attribute(name) = "1";
 }
 
-void PlaceBetween(pugi::xml_node anchor, Point begin, Point end) {
-  SetOffset(anchor, Axis::kHorizontal, std::min(begin.x, end.x));
-  SetOffset(anchor, Axis::kVertical, std::min(begin.y, end.y));
+void PlaceBetween(DocxHost& host, pugi::xml_node anchor, Point begin, Point end) {
+  SetPageOffset(host, anchor, Axis::kHorizontal, std::min(begin.x, end.x));
+  SetPageOffset(host, anchor, Axis::kVertical, std::min(begin.y, end.y));
   SetExtent(anchor, Axis::kHorizontal, std::llabs(end.x - begin.x));
   SetExtent(anchor, Axis::kVertical, std::llabs(end.y - begin.y));
   const pugi::xml_node xfrm = TransformOf(GraphicOf(anchor));
@@ -142,10 +143,11 @@ void DocxConnectorFormat::Connect(bool begin, Shape& connectedShape, long connec
   const pugi::xml_node anchor = shapes_.First();
   const pugi::xml_node nonVisual = GraphicOf(anchor).child("wps:cNvCnPr");
   if (!nonVisual) throw InvalidArgument();
-  const Point site = SiteOf(targetAnchor, connectionSite);
-  auto [from, to] = EndsOf(anchor);
+  DocxHost& host = shapes_.Host();
+  const Point site = SiteOf(host, targetAnchor, connectionSite);
+  auto [from, to] = EndsOf(host, anchor);
   (begin ? from : to) = site;
-  PlaceBetween(anchor, from, to);
+  PlaceBetween(host, anchor, from, to);
   WriteConnection(nonVisual, begin, targetAnchor.child("wp:docPr").attribute("id").value(),
                   connectionSite);
   DropFallback(anchor);

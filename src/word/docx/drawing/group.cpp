@@ -12,16 +12,17 @@ namespace word::docx::drawing {
 
 namespace {
 
-Frame FrameOf(pugi::xml_node anchor) {
-  return {OffsetOf(anchor, Axis::kHorizontal), OffsetOf(anchor, Axis::kVertical),
-          ExtentOf(anchor, Axis::kHorizontal), ExtentOf(anchor, Axis::kVertical)};
+Frame FrameOf(DocxHost& host, pugi::xml_node anchor) {
+  return {PageOffsetOf(host, anchor, Axis::kHorizontal),
+          PageOffsetOf(host, anchor, Axis::kVertical), ExtentOf(anchor, Axis::kHorizontal),
+          ExtentOf(anchor, Axis::kVertical)};
 }
 
-Frame Bounds(const std::vector<pugi::xml_node>& anchors) {
+Frame Bounds(DocxHost& host, const std::vector<pugi::xml_node>& anchors) {
   constexpr auto kMax = std::numeric_limits<std::int64_t>::max();
   std::int64_t left = kMax, top = kMax, right = -kMax, bottom = -kMax;
   for (pugi::xml_node anchor : anchors) {
-    const Frame frame = FrameOf(anchor);
+    const Frame frame = FrameOf(host, anchor);
     left = std::min(left, frame.x);
     top = std::min(top, frame.y);
     right = std::max(right, frame.x + frame.cx);
@@ -40,7 +41,8 @@ std::string GroupXml(const Frame& bounds) {
 // Moves the member's shape into the group, placed relative to the group's
 // corner; a member group becomes a nested wpg:grpSp. Moved, not copied, the
 // nodes stay the same, and so do the text box stories the engine holds.
-void AddMember(pugi::xml_node group, pugi::xml_node anchor, const Frame& bounds) {
+void AddMember(DocxHost& host, pugi::xml_node group, pugi::xml_node anchor, const Frame& bounds) {
+  const Frame frame = FrameOf(host, anchor);
   pugi::xml_node shape = group.append_move(GraphicOf(anchor));
   const bool nested = Is(shape, "wpg:wgp");
   if (nested) shape.set_name("wpg:grpSp");
@@ -50,7 +52,6 @@ void AddMember(pugi::xml_node group, pugi::xml_node anchor, const Frame& bounds)
   const pugi::xml_node docPr = anchor.child("wp:docPr");
   nonVisual.append_attribute("id") = docPr.attribute("id").value();
   nonVisual.append_attribute("name") = docPr.attribute("name").value();
-  const Frame frame = FrameOf(anchor);
   pugi::xml_node xfrm = TransformOf(shape);
   SetAttr(xfrm.child("a:off"), "x", frame.x - bounds.x);
   SetAttr(xfrm.child("a:off"), "y", frame.y - bounds.y);
@@ -94,7 +95,7 @@ pugi::xml_node GroupAnchors(DocxHost& host, const std::vector<pugi::xml_node>& a
   CheckGroupable(anchors);
   DeclareNamespaces(host.DocumentXml());
   const pugi::xml_node first = anchors.front();
-  const Frame bounds = Bounds(anchors);
+  const Frame bounds = Bounds(host, anchors);
   pugi::xml_document parsed;
   parsed.load_string(AnchorXml(bounds, host.NextDrawingId(), HighestOf(anchors),
                                GraphicKind::kGroup, GroupXml(bounds))
@@ -103,10 +104,11 @@ pugi::xml_node GroupAnchors(DocxHost& host, const std::vector<pugi::xml_node>& a
   NameByPrefix(anchor, u"Group");
   for (const Axis axis : {Axis::kHorizontal, Axis::kVertical}) {
     SetRelativeFrom(anchor, axis, RelativeFromOf(first, axis).c_str());
+    SetPageOffset(host, anchor, axis, axis == Axis::kHorizontal ? bounds.x : bounds.y);
   }
   SetWrapType(anchor, WrapTypeOf(first));
   const pugi::xml_node group = GraphicOf(anchor);
-  for (pugi::xml_node member : anchors) AddMember(group, member, bounds);
+  for (pugi::xml_node member : anchors) AddMember(host, group, member, bounds);
 
   const pugi::xml_node choice = anchor.parent().parent();
   if (Is(choice, "mc:Choice")) SetAttr(choice, "Requires", "wpg");

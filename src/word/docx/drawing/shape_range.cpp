@@ -76,10 +76,11 @@ void AnchorRange::SetLeft(float points) {
 }
 
 float AnchorRange::Top() const {
-  return ToPoints(OffsetOf(shapes_.First(), Axis::kVertical));
+  return ToPoints(PageOffsetOf(shapes_.Host(), shapes_.First(), Axis::kVertical));
 }
 void AnchorRange::SetTop(float points) {
-  EachAnchor([points](pugi::xml_node a) { SetOffset(a, Axis::kVertical, ToEmu(points)); });
+  EachAnchor(
+      [&](pugi::xml_node a) { SetPageOffset(shapes_.Host(), a, Axis::kVertical, ToEmu(points)); });
 }
 
 float AnchorRange::Width() const {

@@ -4,6 +4,7 @@
 // reads and writes the DrawingML anchors inside it.
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include <pugixml.hpp>
@@ -38,6 +39,10 @@ class DocxHost {
   // Shape.Select: the selection becomes these shapes (the wp:anchor elements).
   virtual void SelectShapes(const std::vector<pugi::xml_node>& anchors, bool replace) = 0;
   virtual std::vector<pugi::xml_node> SelectedShapes() = 0;
+  // The estimated distance in points from the page's top edge to the top of
+  // the body paragraph holding `anchor`; nothing for an anchor outside the
+  // body's paragraphs.
+  virtual std::optional<float> ParagraphTop(pugi::xml_node anchor) = 0;
 };
 
 // Implemented by the shape layer.
