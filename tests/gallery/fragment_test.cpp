@@ -102,6 +102,29 @@ TEST(Fragment, AFigureReadsBackWithItsGeometry) {
   EXPECT_EQ(label->lines[0].runs[1].text, u"\\frac{1}{2}");
 }
 
+// Shapes kept from the tops of two paragraphs come out where the page
+// showed them, one 40 pt below the other.
+TEST(Fragment, ShapesOfTwoParagraphsKeepTheirPagePlaces) {
+  Files files;
+  const fs::path source = files("two.docx"), fragment = files("two_f.docx");
+  auto app = word::docx::OpenDocx(source);
+  word::Shapes& shapes = app->ActiveDocument().Shapes();
+  app->Selection().TypeText(u"第一段");
+  auto upper = shapes.AddShape(word::msoShapeRectangle, 100, 180, 20, 10);
+  upper->SetName(u"上");
+  upper->SetTop(300);
+  for (int i = 0; i < 6; ++i) app->Selection().TypeParagraph();
+  app->Selection().TypeText(u"第七段");
+  auto lower = shapes.AddShape(word::msoShapeRectangle, 100, 180, 20, 10);
+  lower->SetName(u"下");
+  lower->SetTop(340);
+  app->ActiveDocument().Content()->ExportFragment(FromUtf8(fragment.string()));
+
+  const std::optional<DrawingList> list = ReadDrawingList(fragment.string(), {u"上", u"下"});
+  ASSERT_TRUE(list && list->items.size() == 2);
+  EXPECT_NEAR(list->items[1].path[0].points[0].y - list->items[0].path[0].points[0].y, 40, 0.01);
+}
+
 TEST(Fragment, InsertFileBringsTheFigureToTheCaretOfAnotherDocument) {
   Files files;
   const fs::path source = files("a.docx"), fragment = files("f.docx"), target = files("b.docx");

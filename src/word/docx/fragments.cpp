@@ -11,6 +11,7 @@
 #include "runtime/utf8.h"
 #include "word/docx/document_file.h"
 #include "word/docx/docx_error.h"
+#include "word/docx/drawing/anchor.h"
 #include "word/docx/range_capture.h"
 #include "word/docx/relationships.h"
 #include "word/docx/xml_part.h"
@@ -215,6 +216,25 @@ void DropUnusedContent(Package& package, const std::string& mainPart, const std:
     if (!StillNamed(package, part)) package.Remove(part);
 }
 
+// A fragment is read without the document around it: its shapes are placed
+// from the page corner again, where their paragraphs stood.
+void PinShapesToPage(DocxHost& host, pugi::xml_node fragmentBody) {
+  std::map<std::string, pugi::xml_node> originals;
+  for (pugi::xml_node anchor : drawing::FindAnchors(host.DocumentXml()))
+    originals[anchor.child("wp:docPr").attribute("id").value()] = anchor;
+  for (pugi::xpath_node x : fragmentBody.select_nodes(".//wp:anchor")) {
+    const pugi::xml_node copy = x.node();
+    const auto original = originals.find(copy.child("wp:docPr").attribute("id").value());
+    if (original == originals.end() ||
+        drawing::RelativeFromOf(copy, drawing::Axis::kVertical) != "paragraph")
+      continue;
+    const std::int64_t top =
+        drawing::PageOffsetOf(host, original->second, drawing::Axis::kVertical);
+    drawing::SetRelativeFrom(copy, drawing::Axis::kVertical, "page");
+    drawing::SetOffset(copy, drawing::Axis::kVertical, top);
+  }
+}
+
 }  // namespace
 
 void DocxDocument::ExportFragment(const Place& place, const Text& fileName) {
@@ -223,6 +243,7 @@ void DocxDocument::ExportFragment(const Place& place, const Text& fileName) {
   pugi::xml_node body = fragment.document_element().child("w:body");
   if (!body) throw DocxFileError("文件不是 Word 文档：找不到正文。");
   FillBody(body, Capture(place));
+  PinShapesToPage(*this, body);
   Package copy = package_.Copy();
   const std::string xml = SerializeXml(fragment);
   DropUnusedContent(copy, mainPart_, xml);
