@@ -7,6 +7,9 @@ cd "$work"
 db="$work/config.db"
 
 fail() { echo "FAIL: $*" >&2; exit 1; }
+# LibreOffice with a profile of this script's own: two instances sharing the
+# default one hand their work to each other, and one of them makes nothing.
+soffice() { command soffice -env:UserInstallation="file://$work/lo" "$@"; }
 run() { "$lp" "$@" --config "$db"; }
 # seed FILE LINE...: a document holding the lines, as a teacher typed them.
 seed() {

@@ -125,7 +125,7 @@ render)
   # LibreOffice lays the page out: a figure lands on its caret's line, the
   # same way near the top of a page and at the foot of a long one, where the
   # engine's estimate of the line's place has drifted furthest.
-  command -v soffice >/dev/null || exit 77
+  type -P soffice >/dev/null || exit 77
   for count in 2 28; do
     lines=()
     for i in $(seq 1 "$count"); do lines+=("第${i}行：练习"); done

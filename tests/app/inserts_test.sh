@@ -66,7 +66,7 @@ render)
   # Each insert beside the same formula typed through gs, both turned into
   # native equations by the batch runner: the pairs must come out alike, and
   # LibreOffice, which shows no EQ field, lays the page out.
-  command -v soffice > /dev/null || { echo "SKIP: no LibreOffice"; exit 77; }
+  type -P soffice > /dev/null || { echo "SKIP: no LibreOffice"; exit 77; }
   mkdir folder
   seed folder/t.docx "分数：3/4　公式：3/4" "根式：3/27　公式：g(3,27)" "弧：MN　公式：hu(MN)" \
     "向量：PQ　公式：xl(PQ)" "方程组：x+2y=4，3x-y=5　公式：fcz(x+2y=4,3x-y=5)"
