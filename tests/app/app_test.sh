@@ -193,7 +193,7 @@ import re, sys, zipfile
 path = sys.argv[1]
 parts = {n: zipfile.ZipFile(path).read(n) for n in zipfile.ZipFile(path).namelist()}
 xml = parts["word/document.xml"].decode()
-xml = re.sub(r'(<wp:positionH relativeFrom="page"><wp:posOffset>)\d+', r'\g<1>2000000', xml, count=1)
+xml = re.sub(r'(<wp:positionH relativeFrom="column"><wp:posOffset>)\d+', r'\g<1>2000000', xml, count=1)
 parts["word/document.xml"] = xml.encode()
 with zipfile.ZipFile(path, "w", zipfile.ZIP_DEFLATED) as z:
     for name, data in parts.items():
@@ -202,7 +202,7 @@ PY
   run functiongraph --doc t.docx --select-shape 组合 --click cmdChange --set List1=2 --set txtY_0=3 \
     --click cmdOK_Y --click cmdOK --click cmdCancel
   [[ "$(anchors t.docx)" == 1 ]] || fail "the old group was not replaced"
-  body t.docx | grep -q '<wp:positionH relativeFrom="page"><wp:posOffset>2000000<' ||
+  body t.docx | grep -q '<wp:positionH relativeFrom="column"><wp:posOffset>2000000<' ||
     fail "the new group is not where the old one was moved"
   body t.docx | grep -q 'txtY_0=3' || fail "the change is not in the saved graph"
   [[ "$(body t.docx | grep -o 'name="任意函数：' | wc -l)" == 1 ]] || fail "the curve is not kept once"

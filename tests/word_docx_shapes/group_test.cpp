@@ -149,27 +149,36 @@ TEST(ShapeGroups, ShapesOfAWordFileAreFoundAndKept) {
   EXPECT_TRUE(anchors[1].parent().parent().parent().child("mc:Fallback"));
 }
 
-// A figure moved to a page position stays beside its paragraph: its
-// vertical place is kept from the paragraph's top, and reads back, groups
-// and connects in page positions.
+// A figure moved to a page position stays beside its paragraph: it is
+// kept from the paragraph's top and its column's left edge, and reads back,
+// groups and connects in page positions.
 TEST(ShapeGroups, PagePositionsAreKeptFromTheParagraph) {
   TestHost host;
-  host.paragraphTop = 700;
+  host.origin = word::docx::ParagraphOrigin{90, 700};
   auto shapes = word::docx::MakeShapes(host);
   auto box = shapes->AddShape(word::msoShapeRectangle, 100, 180, 50, 40);
   box->SetName(u"a");
+  box->SetLeft(110);
   box->SetTop(720);
   const pugi::xml_node anchor = FindAnchors(host.document)[0];
+  EXPECT_EQ(Markup(anchor.child("wp:positionH")),
+            "<wp:positionH relativeFrom=\"column\"><wp:posOffset>254000</wp:posOffset>"
+            "</wp:positionH>");
   EXPECT_EQ(Markup(anchor.child("wp:positionV")),
             "<wp:positionV relativeFrom=\"paragraph\"><wp:posOffset>254000</wp:posOffset>"
             "</wp:positionV>");
+  EXPECT_FLOAT_EQ(box->Left(), 110);
   EXPECT_FLOAT_EQ(box->Top(), 720);
   shapes->AddShape(word::msoShapeOval, 100, 800, 10, 10)->SetName(u"b");
   auto group = shapes->Range({u"a", u"b"})->Group();
+  EXPECT_FLOAT_EQ(group->Left(), 100);
   EXPECT_FLOAT_EQ(group->Top(), 720);
+  EXPECT_FLOAT_EQ(group->Width(), 60);
   EXPECT_FLOAT_EQ(group->Height(), 90);
-  EXPECT_EQ(word::docx::drawing::RelativeFromOf(FindAnchors(host.document)[0],
-                                                word::docx::drawing::Axis::kVertical),
+  const pugi::xml_node grouped = FindAnchors(host.document)[0];
+  EXPECT_EQ(word::docx::drawing::RelativeFromOf(grouped, word::docx::drawing::Axis::kHorizontal),
+            "column");
+  EXPECT_EQ(word::docx::drawing::RelativeFromOf(grouped, word::docx::drawing::Axis::kVertical),
             "paragraph");
 }
 

@@ -42,10 +42,11 @@ class TestHost : public word::docx::DocxHost {
     live.Select(anchors, replace);
   }
   std::vector<pugi::xml_node> SelectedShapes() override { return live.Selected(); }
-  std::optional<float> ParagraphTop(pugi::xml_node) override { return paragraphTop; }
+  std::optional<word::docx::ParagraphOrigin> OriginOf(pugi::xml_node) override { return origin; }
 
   pugi::xml_document document;
-  std::optional<float> paragraphTop;  // where the text engine would put the caret's paragraph
+  // Where the text engine would put the caret's paragraph.
+  std::optional<word::docx::ParagraphOrigin> origin;
   unsigned lastId = 0;
   int changes = 0;
   pugi::xml_node lastStory;

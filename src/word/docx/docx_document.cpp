@@ -296,14 +296,17 @@ std::pair<long, long> DocxDocument::CaretPage() {
   return {caret.pageStart, std::max(caret.pageStart, caret.pageEnd)};
 }
 
-std::optional<float> DocxDocument::ParagraphTop(pugi::xml_node anchor) {
+// The estimate knows one text column, from the left margin.
+std::optional<ParagraphOrigin> DocxDocument::OriginOf(pugi::xml_node anchor) {
   pugi::xml_node paragraph = anchor;
   while (paragraph && !Named(paragraph, "w:p")) paragraph = paragraph.parent();
   const StoryIndex& ix = main_->Index();
   long start = 0;
   for (size_t mark : ix.paragraphs) {
     const Segment& s = ix.segments[mark];
-    if (s.node == paragraph) return EstimateCaret(ix, Styles(), Geometry(), start).paragraphY;
+    if (s.node == paragraph)
+      return ParagraphOrigin{Geometry().left,
+                             EstimateCaret(ix, Styles(), Geometry(), start).paragraphY};
     start = s.pos + 1;
   }
   return std::nullopt;

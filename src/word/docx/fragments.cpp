@@ -225,13 +225,12 @@ void PinShapesToPage(DocxHost& host, pugi::xml_node fragmentBody) {
   for (pugi::xpath_node x : fragmentBody.select_nodes(".//wp:anchor")) {
     const pugi::xml_node copy = x.node();
     const auto original = originals.find(copy.child("wp:docPr").attribute("id").value());
-    if (original == originals.end() ||
-        drawing::RelativeFromOf(copy, drawing::Axis::kVertical) != "paragraph")
-      continue;
-    const std::int64_t top =
-        drawing::PageOffsetOf(host, original->second, drawing::Axis::kVertical);
-    drawing::SetRelativeFrom(copy, drawing::Axis::kVertical, "page");
-    drawing::SetOffset(copy, drawing::Axis::kVertical, top);
+    if (original == originals.end()) continue;
+    for (const drawing::Axis axis : {drawing::Axis::kHorizontal, drawing::Axis::kVertical}) {
+      if (!drawing::KeptFromParagraph(copy, axis)) continue;
+      drawing::SetOffset(copy, axis, drawing::PageOffsetOf(host, original->second, axis));
+      drawing::SetRelativeFrom(copy, axis, "page");
+    }
   }
 }
 

@@ -119,25 +119,36 @@ void SetRelativeFrom(pugi::xml_node anchor, Axis axis, const char* from) {
 
 namespace {
 
-std::optional<std::int64_t> ParagraphTopOf(DocxHost& host, pugi::xml_node anchor) {
-  if (std::optional<float> top = host.ParagraphTop(anchor)) return ToEmu(*top);
-  return std::nullopt;
+// What a page position is kept from: the paragraph's top, and the left edge
+// of the column it stands in (a cell's, in a table).
+const char* KeptFrom(Axis axis) {
+  return axis == Axis::kHorizontal ? "column" : "paragraph";
+}
+
+std::optional<std::int64_t> OriginAlong(DocxHost& host, pugi::xml_node anchor, Axis axis) {
+  const std::optional<ParagraphOrigin> origin = host.OriginOf(anchor);
+  if (!origin) return std::nullopt;
+  return ToEmu(axis == Axis::kHorizontal ? origin->columnLeft : origin->top);
 }
 
 }  // namespace
 
+bool KeptFromParagraph(pugi::xml_node anchor, Axis axis) {
+  return RelativeFromOf(anchor, axis) == KeptFrom(axis);
+}
+
 std::int64_t PageOffsetOf(DocxHost& host, pugi::xml_node anchor, Axis axis) {
   const std::int64_t offset = OffsetOf(anchor, axis);
-  if (axis != Axis::kVertical || RelativeFromOf(anchor, axis) != "paragraph") return offset;
-  return offset + ParagraphTopOf(host, anchor).value_or(0);
+  if (!KeptFromParagraph(anchor, axis)) return offset;
+  return offset + OriginAlong(host, anchor, axis).value_or(0);
 }
 
 void SetPageOffset(DocxHost& host, pugi::xml_node anchor, Axis axis, std::int64_t emu) {
   const std::string from = RelativeFromOf(anchor, axis);
-  if (axis == Axis::kVertical && (from == "page" || from == "paragraph")) {
-    if (std::optional<std::int64_t> top = ParagraphTopOf(host, anchor)) {
-      SetRelativeFrom(anchor, axis, "paragraph");
-      SetOffset(anchor, axis, emu - *top);
+  if (from == "page" || from == KeptFrom(axis)) {
+    if (std::optional<std::int64_t> origin = OriginAlong(host, anchor, axis)) {
+      SetRelativeFrom(anchor, axis, KeptFrom(axis));
+      SetOffset(anchor, axis, emu - *origin);
       return;
     }
   }

@@ -43,10 +43,13 @@ std::string RelativeFromOf(pugi::xml_node anchor, Axis axis);
 void SetRelativeFrom(pugi::xml_node anchor, Axis axis, const char* from);
 
 // Offsets on the page, in EMU. A shape placed by its page position is kept
-// relative to the top of its paragraph, the paragraph's place on the page
-// being the text engine's estimate: where Word or another reader breaks the
-// pages elsewhere, the shape still stands beside its text.
+// relative to the top of its paragraph and the left of its text column, the
+// paragraph's place on the page being the text engine's estimate: where Word
+// or another reader breaks the pages, columns or table cells otherwise, the
+// shape still stands beside its text.
 std::int64_t PageOffsetOf(DocxHost& host, pugi::xml_node anchor, Axis axis);
+// Whether the offset along `axis` is kept from the paragraph's origin.
+bool KeptFromParagraph(pugi::xml_node anchor, Axis axis);
 void SetPageOffset(DocxHost& host, pugi::xml_node anchor, Axis axis, std::int64_t emu);
 
 std::int64_t ExtentOf(pugi::xml_node anchor, Axis axis);

@@ -69,10 +69,12 @@ MsoShapeType AnchorRange::Type() const {
 }
 
 float AnchorRange::Left() const {
-  return ToPoints(OffsetOf(shapes_.First(), Axis::kHorizontal));
+  return ToPoints(PageOffsetOf(shapes_.Host(), shapes_.First(), Axis::kHorizontal));
 }
 void AnchorRange::SetLeft(float points) {
-  EachAnchor([points](pugi::xml_node a) { SetOffset(a, Axis::kHorizontal, ToEmu(points)); });
+  EachAnchor([&](pugi::xml_node a) {
+    SetPageOffset(shapes_.Host(), a, Axis::kHorizontal, ToEmu(points));
+  });
 }
 
 float AnchorRange::Top() const {

@@ -14,6 +14,10 @@
 
 namespace word::docx {
 
+struct ParagraphOrigin {
+  float columnLeft = 0, top = 0;
+};
+
 class DocxHost {
  public:
   virtual ~DocxHost() = default;
@@ -39,10 +43,10 @@ class DocxHost {
   // Shape.Select: the selection becomes these shapes (the wp:anchor elements).
   virtual void SelectShapes(const std::vector<pugi::xml_node>& anchors, bool replace) = 0;
   virtual std::vector<pugi::xml_node> SelectedShapes() = 0;
-  // The estimated distance in points from the page's top edge to the top of
-  // the body paragraph holding `anchor`; nothing for an anchor outside the
-  // body's paragraphs.
-  virtual std::optional<float> ParagraphTop(pugi::xml_node anchor) = 0;
+  // Where the text engine estimates the body paragraph holding `anchor`
+  // stands, in points from the page's corner: the left edge of its text
+  // column and its top. Nothing for an anchor outside the body's paragraphs.
+  virtual std::optional<ParagraphOrigin> OriginOf(pugi::xml_node anchor) = 0;
 };
 
 // Implemented by the shape layer.
