@@ -123,31 +123,50 @@ assert all(int(r[2].split(":")[1]) % 3 == 1 for r in sectors), sectors
   ;;
 render)
   # LibreOffice lays the page out: a figure lands on its caret's line, the
-  # same way near the top of a page and at the foot of a long one, where the
-  # engine's estimate of the line's place has drifted furthest.
+  # same way near the top of a page, at the foot of a long one, where the
+  # engine's estimate of the line's place has drifted furthest, and in the
+  # second column of a two-column paper, which the estimate does not know.
   type -P soffice >/dev/null || exit 77
-  for count in 2 28; do
+  figure_at() {  # NAME LINES [COLUMNS]
     lines=()
-    for i in $(seq 1 "$count"); do lines+=("第${i}行：练习"); done
-    seed "t$count.docx" "${lines[@]}" "数轴：【图】"
-    run interval --doc "t$count.docx" --caret "【图】" --set txtXmin=-5 --set txtXmax=5 \
+    for i in $(seq 1 "$2"); do lines+=("第${i}行：练习"); done
+    seed "$1.docx" "${lines[@]}" "数轴：【图】"
+    if [[ -n "${3:-}" ]]; then
+      python3 - "$1.docx" <<'PY'
+import sys, zipfile
+path = sys.argv[1]
+parts = {n: zipfile.ZipFile(path).read(n) for n in zipfile.ZipFile(path).namelist()}
+parts["word/document.xml"] = parts["word/document.xml"].replace(
+    b"</w:sectPr>", b'<w:cols w:num="2" w:space="425"/></w:sectPr>')
+with zipfile.ZipFile(path, "w", zipfile.ZIP_DEFLATED) as z:
+    for name, data in parts.items():
+        z.writestr(name, data)
+PY
+    fi
+    run interval --doc "$1.docx" --caret "【图】" --set txtXmin=-5 --set txtXmax=5 \
       --set optLessThanA=1 --set txtA=-3 --click cmdOK --click cmdCancel
-    soffice --headless --convert-to pdf "t$count.docx" > /dev/null 2>&1 || fail "LibreOffice failed"
-    pdftotext -bbox "t$count.pdf" "t$count.html"
-  done
+    soffice --headless --convert-to pdf "$1.docx" > /dev/null 2>&1 || fail "LibreOffice failed"
+    pdftotext -bbox "$1.pdf" "$1.html"
+  }
+  figure_at top 2
+  figure_at foot 28
+  figure_at columns 40 2
   python3 - <<'PY' || fail "the figure is not on its caret's line"
 import re
-def gap(name):
-    # The figure's "x" label below the caret's line, on the same page.
-    pages = open(name, encoding="utf-8").read().split("<page ")[1:]
-    for page in pages:
+def placed(name):
+    # How far the figure's "x" label stands below the caret's line, on the
+    # same page, and where its "-3" label starts across the page.
+    for page in open(name, encoding="utf-8").read().split("<page ")[1:]:
         line = re.findall(r'yMin="([0-9.]+)"[^>]*>数轴', page)
         label = re.findall(r'yMin="([0-9.]+)"[^>]*>x<', page)
+        left = re.findall(r'xMin="([0-9.]+)"[^>]*>-3<', page)
         if line:
-            assert label, "the figure is on another page than its line"
-            return float(label[0]) - float(line[0])
-top, foot = gap("t2.html"), gap("t28.html")
-assert 0 < top < 15 and abs(foot - top) < 2, (top, foot)
+            assert label and left, "the figure is on another page than its line"
+            return float(label[0]) - float(line[0]), float(left[0])
+(top, left), (foot, _), (columns, right) = map(placed, ("top.html", "foot.html", "columns.html"))
+assert 0 < top < 15 and abs(foot - top) < 2 and abs(columns - top) < 2, (top, foot, columns)
+half = 595.3 / 2
+assert left < half < right, (left, right)  # in the column of its line
 PY
   ;;
 *)
