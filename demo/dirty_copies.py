@@ -8,23 +8,33 @@ import os
 import sys
 
 import docx
+from docx.enum.style import WD_STYLE_TYPE
 from docx.opc.constants import RELATIONSHIP_TYPE
+from docx.shared import RGBColor
 from docx.oxml import OxmlElement
 from docx.oxml.ns import qn
 
 
+def hyperlink_style(document):
+    """Word's character style for links: blue and underlined."""
+    if 'Hyperlink' in [s.name for s in document.styles]:
+        return
+    style = document.styles.add_style('Hyperlink', WD_STYLE_TYPE.CHARACTER)
+    style.font.color.rgb = RGBColor(0x05, 0x63, 0xC1)
+    style.font.underline = True
+
+
 def add_hyperlink(paragraph, url, text):
+    """A link as Word writes one: its run in the Hyperlink style."""
+    hyperlink_style(paragraph.part.document)
     rid = paragraph.part.relate_to(url, RELATIONSHIP_TYPE.HYPERLINK, is_external=True)
     link = OxmlElement('w:hyperlink')
     link.set(qn('r:id'), rid)
     run = OxmlElement('w:r')
     props = OxmlElement('w:rPr')
-    color = OxmlElement('w:color')
-    color.set(qn('w:val'), '0563C1')
-    underline = OxmlElement('w:u')
-    underline.set(qn('w:val'), 'single')
-    props.append(color)
-    props.append(underline)
+    style = OxmlElement('w:rStyle')
+    style.set(qn('w:val'), 'Hyperlink')
+    props.append(style)
     run.append(props)
     t = OxmlElement('w:t')
     t.text = text

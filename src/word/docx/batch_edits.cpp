@@ -18,9 +18,11 @@ void Unwrap(pugi::xml_node element) {
 }
 
 void DropHyperlinkStyle(pugi::xml_node run, const std::string& styleId) {
-  pugi::xml_node style = run.child("w:rPr").child("w:rStyle");
-  if (!styleId.empty() && style && styleId == style.attribute("w:val").value())
-    style.parent().remove_child(style);
+  pugi::xml_node rPr = run.child("w:rPr");
+  pugi::xml_node style = rPr.child("w:rStyle");
+  if (styleId.empty() || !style || styleId != style.attribute("w:val").value()) return;
+  rPr.remove_child(style);
+  if (!rPr.first_child()) run.remove_child(rPr);
 }
 
 bool BlankText(const char* text) {
