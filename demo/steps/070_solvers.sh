@@ -14,7 +14,7 @@ run equation "【二次方程】" --set txtQ_Equation='x^2-5x+6=0' --click cmdIn
 "$LP" a_c --doc "$DOC" --config "$config" --caret "【排列】" --set txtM=2 --set txtN=5 --set Check1=1 --click cmdInsert --click cmdCancel
 "$LP" a_c --doc "$DOC" --config "$config" --caret "【组合】" --set optA_1=1 --set txtM=2 --set txtN=5 --set Check1=1 --click cmdInsert \
   --click cmdCancel
-"$LP" interval --doc "$DOC" --config "$config" --caret "【数轴】" --set txtLengthOfAxis=10 \
+"$LP" interval --doc "$DOC" --config "$config" --caret "【数轴】" --set txtLengthOfAxis=8 \
   --set txtXmin=-5 --set txtXmax=5 --set optLessThanA=1 --set txtA=-3 --click cmdOK \
   --set optBTaNBTb=1 --set txtA=-2 --set txtB=1 --click cmdOK --set optNoLessThanA=1 --set txtA=3 \
   --click cmdOK --click cmdCancel

@@ -143,8 +143,8 @@ with zipfile.ZipFile(path, "w", zipfile.ZIP_DEFLATED) as z:
         z.writestr(name, data)
 PY
     fi
-    run interval --doc "$1.docx" --caret "【图】" --set txtXmin=-5 --set txtXmax=5 \
-      --set optLessThanA=1 --set txtA=-3 --click cmdOK --click cmdCancel
+    run interval --doc "$1.docx" --caret "【图】" --set txtXmin=-4 --set txtXmax=4 \
+      --set txtLengthOfAxis=4 --set optLessThanA=1 --set txtA=-3 --click cmdOK --click cmdCancel
     soffice --headless --convert-to pdf "$1.docx" > /dev/null 2>&1 || fail "LibreOffice failed"
     pdftotext -bbox "$1.pdf" "$1.html"
   }
@@ -154,19 +154,18 @@ PY
   python3 - <<'PY' || fail "the figure is not on its caret's line"
 import re
 def placed(name):
-    # How far the figure's "x" label stands below the caret's line, on the
-    # same page, and where its "-3" label starts across the page.
+    # Where the figure's "-3" label stands against the end of the caret's
+    # line ("数轴：", which the tool centres), on the same page.
     for page in open(name, encoding="utf-8").read().split("<page ")[1:]:
-        line = re.findall(r'yMin="([0-9.]+)"[^>]*>数轴', page)
-        label = re.findall(r'yMin="([0-9.]+)"[^>]*>x<', page)
-        left = re.findall(r'xMin="([0-9.]+)"[^>]*>-3<', page)
+        line = re.findall(r'xMax="([0-9.]+)" yMax="([0-9.]+)">数轴', page)
+        label = re.findall(r'xMin="([0-9.]+)" yMin="[0-9.]+" xMax="[0-9.]+" yMax="([0-9.]+)">-3<', page)
         if line:
-            assert label and left, "the figure is on another page than its line"
-            return float(label[0]) - float(line[0]), float(left[0])
-(top, left), (foot, _), (columns, right) = map(placed, ("top.html", "foot.html", "columns.html"))
-assert 0 < top < 15 and abs(foot - top) < 2 and abs(columns - top) < 2, (top, foot, columns)
-half = 595.3 / 2
-assert left < half < right, (left, right)  # in the column of its line
+            assert label, "the figure is on another page than its line"
+            return [float(l) - float(c) for l, c in zip(label[0], line[0])]
+top, foot, columns = map(placed, ("top.html", "foot.html", "columns.html"))
+assert 0 < top[1] < 15, top
+for other in foot, columns:
+    assert abs(other[0] - top[0]) < 3 and abs(other[1] - top[1]) < 2, (top, foot, columns)
 PY
   ;;
 *)

@@ -55,6 +55,7 @@ float OnGrid(float height, float pitch, pugi::xml_node own, pugi::xml_node defau
 struct Paragraph {
   long start = 0, end = 0;  // positions, end = the mark
   float lineHeight = 15.6f, fontSize = 10.5f, before = 0, after = 0, indent = 0;
+  float alignment = 0;  // where a short line stands in the room: 0 left, 0.5 centred, 1 right
   bool pageBreakBefore = false;
 };
 
@@ -79,6 +80,8 @@ std::vector<Paragraph> Paragraphs(const StoryIndex& ix, const StyleSheet& styles
     p.after = Spacing(spacing, styles.DefaultSpacing(), "w:after", 0);
     p.indent = Twips(pPr.child("w:ind"), "w:left", 0);
     p.pageBreakBefore = static_cast<bool>(pPr.child("w:pageBreakBefore"));
+    const std::string jc = styles.Alignment(node);
+    p.alignment = jc == "center" ? 0.5f : jc == "right" || jc == "end" ? 1.0f : 0.0f;
     out.push_back(p);
     start = mark.pos + 1;
   }
@@ -117,6 +120,17 @@ PageGeometry ReadPageGeometry(pugi::xml_node sectPr) {
   g.bottom = std::fabs(Twips(margins, "w:bottom", g.bottom));
   g.left = Twips(margins, "w:left", g.left);
   g.right = Twips(margins, "w:right", g.right);
+  // Columns share the text width, less the space between them; unequal
+  // ones are taken as wide as the first.
+  pugi::xml_node columns = sectPr.child("w:cols");
+  const int count = std::max(1, columns.attribute("w:num").as_int(1));
+  if (pugi::xml_node first = columns.child("w:col");
+      first && !columns.attribute("w:equalWidth").as_bool(true)) {
+    g.columnWidth = Twips(first, "w:w", 0);
+  } else if (count > 1) {
+    const float space = Twips(columns, "w:space", 36);
+    g.columnWidth = (g.width - g.left - g.right - space * (count - 1)) / count;
+  }
   pugi::xml_node grid = sectPr.child("w:docGrid");
   g.linePitch = grid && std::strcmp(grid.attribute("w:type").value(), "default") != 0
                     ? Twips(grid, "w:linePitch", 0)
@@ -129,7 +143,8 @@ CaretEstimate EstimateCaret(const StoryIndex& ix, const StyleSheet& styles,
   CaretEstimate caret;
   caret.x = page.left;
   caret.y = page.top;
-  const float textWidth = std::max(72.0f, page.width - page.left - page.right);
+  const float textWidth = std::max(
+      72.0f, page.columnWidth > 0 ? page.columnWidth : page.width - page.left - page.right);
   const float textHeight = std::max(72.0f, page.height - page.top - page.bottom);
   float y = 0;
   int pageNo = 1;
@@ -147,9 +162,14 @@ CaretEstimate EstimateCaret(const StoryIndex& ix, const StyleSheet& styles,
       pageStart = p.start;
     }
     if (!found && pos <= p.end) {
+      const float room = textWidth - p.indent;
       float before = TextWidth(ix, p.start, pos, p.fontSize, nullptr);
-      float line = std::floor(before / (textWidth - p.indent));
-      caret.x = page.left + p.indent + (before - line * (textWidth - p.indent));
+      float line = std::floor(before / room);
+      // The last line is as long as what is left; a centred or right-aligned
+      // one moves over by its share of the room it leaves.
+      const float lineWidth = line < lines - 1 ? room : width - line * room;
+      caret.x = page.left + p.indent + (before - line * room) +
+                std::max(0.0f, room - lineWidth) * p.alignment;
       caret.y = page.top + y + p.before + std::min(line, lines - 1) * p.lineHeight;
       caret.paragraphY = page.top + y;
       caret.page = pageNo;

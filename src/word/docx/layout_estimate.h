@@ -17,6 +17,7 @@ struct PageGeometry {
   float width = 595.3f, height = 841.9f;  // A4, points
   float top = 72, bottom = 72, left = 90, right = 90;
   float linePitch = 15.6f;  // the document grid's line height, 0 if none
+  float columnWidth = 0;    // the width of a text column, 0 for the whole text width
 };
 
 PageGeometry ReadPageGeometry(pugi::xml_node sectPr);

@@ -74,6 +74,23 @@ CharFormat StyleSheet::StyleChain(const std::string& id, int depth) const {
   return f;
 }
 
+std::string StyleSheet::Alignment(pugi::xml_node paragraph) const {
+  pugi::xml_node pPr = paragraph.child("w:pPr");
+  if (pugi::xml_node jc = pPr.child("w:jc")) return jc.attribute("w:val").value();
+  std::string id = pPr.child("w:pStyle").attribute("w:val").value();
+  if (id.empty()) id = defaultParagraphStyle_;
+  for (int depth = 0; depth < 20; ++depth) {
+    auto it = styles_.find(id);
+    if (it == styles_.end()) break;
+    if (pugi::xml_node jc = it->second.child("w:pPr").child("w:jc"))
+      return jc.attribute("w:val").value();
+    const std::string base = it->second.child("w:basedOn").attribute("w:val").value();
+    if (base.empty() || base == id) break;
+    id = base;
+  }
+  return {};
+}
+
 CharFormat StyleSheet::Effective(pugi::xml_node run, pugi::xml_node paragraph) const {
   CharFormat f = defaults_;
   std::string pStyle = paragraph.child("w:pPr").child("w:pStyle").attribute("w:val").value();

@@ -19,6 +19,8 @@ class StyleSheet {
   CharFormat Effective(pugi::xml_node run, pugi::xml_node paragraph) const;
   // Direct properties as Font reads them, theme fonts resolved.
   CharFormat Read(pugi::xml_node rPr) const;
+  // The paragraph's alignment (w:jc's value): its own, else its style's.
+  std::string Alignment(pugi::xml_node paragraph) const;
   // The paragraph spacing of the document's defaults (w:spacing), or none.
   pugi::xml_node DefaultSpacing() const { return defaultSpacing_; }
 
