@@ -203,34 +203,41 @@ void PutInBox(Item& item, const Box& box, const Map& map) {
   item.bottomRight = map(box.x + box.cx, box.y + box.cy);
 }
 
-// The outline of a shape: a path, or an ellipse kept whole.
+// The paths of a custom geometry, scaled from each path's own size to the
+// box; a path may be there only to be outlined, or only to be filled.
+std::vector<OutlinePath> CustomPaths(pugi::xml_node custom, const Box& box) {
+  std::vector<OutlinePath> paths;
+  for (pugi::xml_node path : custom.child("a:pathLst").children("a:path"))
+    paths.push_back({CustomPath(path, box), path.attribute("stroke").as_bool(true),
+                     std::strcmp(path.attribute("fill").value(), "none") != 0});
+  return paths;
+}
+
+// The outline of a shape: its paths, or an ellipse kept whole.
 void ReadOutline(pugi::xml_node wsp, const Box& box, const Map& map, const ThemeColors& theme,
                  DrawingList& list) {
   pugi::xml_node spPr = wsp.child("wps:spPr");
   Item item;
   item.stroke = StrokeOf(wsp, theme);
   item.fill = FillOf(wsp, theme);
-  if (pugi::xml_node custom = spPr.child("a:custGeom")) {
-    // A path may be there only to be outlined, or only to be filled: an
-    // arc's outline is open, its filled piece a slice.
-    for (pugi::xml_node path : custom.child("a:pathLst").children("a:path")) {
-      Item part = item;
-      part.path = Placed(CustomPath(path, box), box, map);
-      part.stroke.visible = item.stroke.visible && path.attribute("stroke").as_bool(true);
-      part.fill.visible = item.fill.visible && std::strcmp(path.attribute("fill").value(), "none");
-      list.items.push_back(part);
-    }
-    return;
-  }
   pugi::xml_node geometry = spPr.child("a:prstGeom");
   const std::string preset = geometry.attribute("prst").value();
-  if (preset == "ellipse" || preset == "flowChartConnector") {
+  if (!spPr.child("a:custGeom") && (preset == "ellipse" || preset == "flowChartConnector")) {
     item.kind = Item::kEllipse;
     PutInBox(item, box, map);
-  } else {
-    item.path = Placed(PresetOutline(preset, box.cx, box.cy, geometry.child("a:avLst")), box, map);
+    list.items.push_back(item);
+    return;
   }
-  list.items.push_back(item);
+  const std::vector<OutlinePath> paths =
+      spPr.child("a:custGeom") ? CustomPaths(spPr.child("a:custGeom"), box)
+                               : PresetOutline(preset, box.cx, box.cy, geometry.child("a:avLst"));
+  for (const OutlinePath& path : paths) {
+    Item part = item;
+    part.path = Placed(path.steps, box, map);
+    part.stroke.visible = item.stroke.visible && path.stroked;
+    part.fill.visible = item.fill.visible && path.filled;
+    list.items.push_back(part);
+  }
 }
 
 void ReadTextBox(pugi::xml_node wsp, const Box& box, const Map& map, const ThemeColors& theme,

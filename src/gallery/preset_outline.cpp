@@ -1,6 +1,7 @@
 #include "gallery/preset_outline.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
 
@@ -9,6 +10,7 @@ namespace {
 
 constexpr double kFull = 100000.0;  // adjustments are in 1/100000
 constexpr double kCircle = 0.5523;  // a quarter circle's Bezier handle
+constexpr double kPi = 3.14159265358979;
 
 // An adjustment by name ("adj", "adj1"), as Word's gd writes it: "val N".
 double Adjustment(pugi::xml_node adjustments, const char* name, double fallback) {
@@ -64,6 +66,36 @@ std::vector<PathStep> RightArrow(double w, double h, double a1, double a2) {
   return Closed({{0, y1}, {x1, y1}, {x1, 0}, {w, h / 2}, {x1, h}, {x1, y2}, {0, y2}});
 }
 
+// The curve of the ellipse filling the box from `start` through `sweep`
+// degrees, clockwise on the page; angles are where the points are seen
+// from the centre, as Word's arc adjustments give them.
+std::vector<PathStep> EllipseArc(double w, double h, double start, double sweep) {
+  const double rx = w / 2, ry = h / 2;
+  const int pieces = std::max(2, static_cast<int>(std::ceil(std::fabs(sweep) / 3)));
+  std::vector<PathStep> steps;
+  for (int i = 0; i <= pieces; ++i) {
+    const double a = (start + sweep * i / pieces) * kPi / 180;
+    const double r = rx * ry / std::max(1e-9, std::hypot(ry * std::cos(a), rx * std::sin(a)));
+    steps.push_back(i == 0 ? Move(rx + r * std::cos(a), ry + r * std::sin(a))
+                           : Line(rx + r * std::cos(a), ry + r * std::sin(a)));
+  }
+  return steps;
+}
+
+// Word's arc, pie and chord: adj1 and adj2 are the start and end angles in
+// 60000ths of a degree.
+std::vector<OutlinePath> Slice(const std::string& preset, double w, double h, pugi::xml_node av) {
+  const double start = Adjustment(av, "adj1", preset == "arc" ? 16200000 : 0) * kFull / 60000;
+  const double end = Adjustment(av, "adj2", preset == "pie" ? 16200000 : 0) * kFull / 60000;
+  const double sweep = std::fmod(std::fmod(end - start, 360) + 360, 360);
+  std::vector<PathStep> curve = EllipseArc(w, h, start, sweep == 0 ? 360 : sweep);
+  std::vector<PathStep> piece = curve;
+  if (preset != "chord") piece.push_back(Line(w / 2, h / 2));
+  piece.push_back(Close());
+  if (preset != "arc") return {{piece}};
+  return {{piece, false, true}, {curve, true, false}};
+}
+
 std::vector<PathStep> Mirrored(std::vector<PathStep> steps, double w) {
   for (PathStep& step : steps)
     for (Point& p : step.points) p.x = w - p.x;
@@ -87,10 +119,8 @@ std::vector<PathStep> Connector(const std::string& preset, double w, double h, p
   return Open({{0, 0}, {w, h}});
 }
 
-}  // namespace
-
-std::vector<PathStep> PresetOutline(const std::string& preset, double w, double h,
-                                    pugi::xml_node adjustments) {
+std::vector<PathStep> Outline(const std::string& preset, double w, double h,
+                              pugi::xml_node adjustments) {
   const auto is = [&](const char* prefix) { return preset.rfind(prefix, 0) == 0; };
   const double side = std::min(w, h);
   if (preset == "line" || is("straightConnector") || is("bentConnector") || is("curvedConnector"))
@@ -117,6 +147,15 @@ std::vector<PathStep> PresetOutline(const std::string& preset, double w, double 
     return preset == "rightArrow" ? arrow : Mirrored(std::move(arrow), w);
   }
   return Closed({{0, 0}, {w, 0}, {w, h}, {0, h}});
+}
+
+}  // namespace
+
+std::vector<OutlinePath> PresetOutline(const std::string& preset, double w, double h,
+                                       pugi::xml_node adjustments) {
+  if (preset == "arc" || preset == "pie" || preset == "chord")
+    return Slice(preset, w, h, adjustments);
+  return {{Outline(preset, w, h, adjustments)}};
 }
 
 }  // namespace lp::gallery

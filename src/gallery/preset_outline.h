@@ -12,9 +12,16 @@
 
 namespace lp::gallery {
 
-// `adjustments` is the shape's a:avLst (its a:gd values move the bends and
-// corners); a preset not drawn here shows as its box.
-std::vector<PathStep> PresetOutline(const std::string& preset, double w, double h,
-                                    pugi::xml_node adjustments);
+// A path of an outline; some are only filled (an arc's slice) or only
+// stroked (its curve).
+struct OutlinePath {
+  std::vector<PathStep> steps;
+  bool stroked = true, filled = true;
+};
+
+// `adjustments` is the shape's a:avLst (its a:gd values move the bends,
+// corners and angles); a preset not drawn here shows as its box.
+std::vector<OutlinePath> PresetOutline(const std::string& preset, double w, double h,
+                                       pugi::xml_node adjustments);
 
 }  // namespace lp::gallery

@@ -110,7 +110,8 @@ TEST(PresetOutline, ConnectorsArrowsAndBoxes) {
   for (const PresetRow& row : rows) {
     pugi::xml_document av;
     av.load_string((std::string("<a:avLst>") + row.adjustments + "</a:avLst>").c_str());
-    const std::vector<PathStep> steps = PresetOutline(row.preset, 20, 10, av.first_child());
+    const std::vector<PathStep> steps =
+        PresetOutline(row.preset, 20, 10, av.first_child()).at(0).steps;
     std::vector<Point> corners;
     for (const PathStep& step : steps)
       if (step.kind == PathStep::kMove || step.kind == PathStep::kLine)
@@ -122,6 +123,33 @@ TEST(PresetOutline, ConnectorsArrowsAndBoxes) {
     }
     EXPECT_EQ(!steps.empty() && steps.back().kind == PathStep::kClose, row.closed) << row.name;
   }
+}
+
+// Word's arc: a quarter of the ellipse from the top clockwise to the right
+// by default, drawn as its curve with the slice under it filled.
+TEST(PresetOutline, ArcsAreCurvesOverTheirSlices) {
+  const std::vector<OutlinePath> arc = PresetOutline("arc", 20, 10, pugi::xml_node());
+  ASSERT_EQ(arc.size(), 2u);
+  EXPECT_TRUE(arc[0].filled && !arc[0].stroked);
+  EXPECT_TRUE(arc[1].stroked && !arc[1].filled);
+  const std::vector<PathStep>& curve = arc[1].steps;
+  EXPECT_NEAR(curve.front().points[0].x, 10, 1e-9);
+  EXPECT_NEAR(curve.front().points[0].y, 0, 1e-9);
+  EXPECT_NEAR(curve.back().points[0].x, 20, 1e-9);
+  EXPECT_NEAR(curve.back().points[0].y, 5, 1e-9);
+  EXPECT_EQ(arc[0].steps.back().kind, PathStep::kClose);
+
+  pugi::xml_document av;
+  av.load_string(R"(<a:avLst><a:gd name="adj1" fmla="val 5400000"/>)"
+                 R"(<a:gd name="adj2" fmla="val 10800000"/></a:avLst>)");
+  const std::vector<OutlinePath> pie = PresetOutline("pie", 20, 10, av.first_child());
+  ASSERT_EQ(pie.size(), 1u);
+  // From the bottom to the left, then to the centre.
+  const std::vector<PathStep>& steps = pie[0].steps;
+  EXPECT_NEAR(steps.front().points[0].x, 10, 1e-9);
+  EXPECT_NEAR(steps.front().points[0].y, 10, 1e-9);
+  EXPECT_NEAR(steps[steps.size() - 3].points[0].x, 0, 1e-9);
+  EXPECT_NEAR(steps[steps.size() - 2].points[0].y, 5, 1e-9);
 }
 
 // A document whose body is `body`, with a picture part for rIdP.
