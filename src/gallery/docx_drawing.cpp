@@ -293,6 +293,8 @@ void ReadPicture(pugi::xml_node pic, const Map& map, const Sources& sources, Dra
   Item item;
   item.kind = Item::kPicture;
   item.stroke.visible = false;
+  item.mirrorH = box.flipH;
+  item.mirrorV = box.flipV;
   PutInBox(item, box, map);
   item.picture =
       sources.Picture(pic.child("pic:blipFill").child("a:blip").attribute("r:embed").value());

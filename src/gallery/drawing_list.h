@@ -56,10 +56,11 @@ struct Item {
   enum Kind { kPath, kEllipse, kText, kPicture } kind = kPath;
   Stroke stroke;
   Fill fill;
-  std::vector<PathStep> path;   // kPath
-  Point topLeft, bottomRight;   // the box of kEllipse, kText and kPicture
-  std::vector<TextLine> lines;  // kText: text inside the box's margins
-  std::string picture;          // kPicture: the bytes of the image file
+  std::vector<PathStep> path;             // kPath
+  Point topLeft, bottomRight;             // the box of kEllipse, kText and kPicture
+  std::vector<TextLine> lines;            // kText: text inside the box's margins
+  std::string picture;                    // kPicture: the bytes of the image file
+  bool mirrorH = false, mirrorV = false;  // kPicture: shown mirrored
   double insetLeft = 7.2, insetTop = 3.6, insetBottom = 3.6;
   int anchor = 0;  // kText: its lines stand at the top (0), middle (1) or bottom (2)
   // Ellipses, text and pictures turn by this many degrees, clockwise, about the

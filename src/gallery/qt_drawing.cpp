@@ -228,8 +228,10 @@ void PaintItem(QPainter& painter, const Item& item, double scale, QPointF origin
     painter.drawEllipse(box);
   } else if (item.kind == Item::kPicture) {
     // A format Qt cannot read (a metafile) leaves its place blank.
-    const QImage picture = QImage::fromData(
-        QByteArray::fromRawData(item.picture.data(), static_cast<qsizetype>(item.picture.size())));
+    const QImage picture =
+        QImage::fromData(QByteArray::fromRawData(item.picture.data(),
+                                                 static_cast<qsizetype>(item.picture.size())))
+            .mirrored(item.mirrorH, item.mirrorV);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (!picture.isNull()) painter.drawImage(box, picture);
   } else if (item.kind == Item::kPath) {

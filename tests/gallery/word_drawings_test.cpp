@@ -218,13 +218,14 @@ TEST(WordDrawings, TurnedGroupsArcsAndDrawingsInLine) {
 
   const WordFile inLine(Drawing("wp:inline",
                                 R"(<pic:pic><pic:blipFill><a:blip r:embed="rIdP"/>)"
-                                R"(</pic:blipFill><pic:spPr><a:xfrm><a:off x="0" y="0"/>)"
+                                R"(</pic:blipFill><pic:spPr><a:xfrm flipH="1"><a:off x="0" y="0"/>)"
                                 R"(<a:ext cx="254000" cy="127000"/></a:xfrm>)"
                                 R"(</pic:spPr></pic:pic>)"));
   const std::optional<DrawingList> picture = ReadDrawingList(inLine.Path());
   ASSERT_TRUE(picture && picture->items.size() == 1);
   EXPECT_EQ(picture->items[0].kind, Item::kPicture);
   EXPECT_EQ(picture->items[0].picture, "\x89PNG bytes");
+  EXPECT_TRUE(picture->items[0].mirrorH);
   EXPECT_NEAR(picture->width, 20, 1e-9);
   EXPECT_NEAR(picture->height, 10, 1e-9);
 }
