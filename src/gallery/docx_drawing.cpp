@@ -17,6 +17,7 @@
 #include "gallery/preset_outline.h"
 #include "gallery/run_text.h"
 #include "gallery/theme_colors.h"
+#include "gallery/xml_name.h"
 #include "runtime/utf8.h"
 
 namespace lp::gallery {
@@ -187,11 +188,10 @@ std::vector<PathStep> CustomPath(pugi::xml_node path, const Box& box) {
   for (pugi::xml_node command : path.children()) {
     std::vector<Point> points;
     for (pugi::xml_node pt : command.children("a:pt")) points.push_back(at(pt));
-    const std::string name = command.name();
-    if (name == "a:moveTo") steps.push_back({PathStep::kMove, points});
-    if (name == "a:lnTo") steps.push_back({PathStep::kLine, points});
-    if (name == "a:cubicBezTo") steps.push_back({PathStep::kCubic, points});
-    if (name == "a:close") steps.push_back({PathStep::kClose, {}});
+    if (Is(command, "a:moveTo")) steps.push_back({PathStep::kMove, points});
+    if (Is(command, "a:lnTo")) steps.push_back({PathStep::kLine, points});
+    if (Is(command, "a:cubicBezTo")) steps.push_back({PathStep::kCubic, points});
+    if (Is(command, "a:close")) steps.push_back({PathStep::kClose, {}});
   }
   return steps;
 }
@@ -220,17 +220,17 @@ void ReadOutline(pugi::xml_node wsp, const Box& box, const Map& map, const Theme
   Item item;
   item.stroke = StrokeOf(wsp, theme);
   item.fill = FillOf(wsp, theme);
-  pugi::xml_node geometry = spPr.child("a:prstGeom");
+  pugi::xml_node geometry = spPr.child("a:prstGeom"), custom = spPr.child("a:custGeom");
   const std::string preset = geometry.attribute("prst").value();
-  if (!spPr.child("a:custGeom") && (preset == "ellipse" || preset == "flowChartConnector")) {
+  if (!custom && (preset == "ellipse" || preset == "flowChartConnector")) {
     item.kind = Item::kEllipse;
     PutInBox(item, box, map);
     list.items.push_back(item);
     return;
   }
   const std::vector<OutlinePath> paths =
-      spPr.child("a:custGeom") ? CustomPaths(spPr.child("a:custGeom"), box)
-                               : PresetOutline(preset, box.cx, box.cy, geometry.child("a:avLst"));
+      custom ? CustomPaths(custom, box)
+             : PresetOutline(preset, box.cx, box.cy, geometry.child("a:avLst"));
   for (const OutlinePath& path : paths) {
     Item part = item;
     part.path = Placed(path.steps, box, map);
@@ -303,10 +303,9 @@ void ReadPicture(pugi::xml_node pic, const Map& map, const Sources& sources, Dra
 
 void ReadGraphic(pugi::xml_node graphic, const Map& map, const Sources& sources,
                  DrawingList& list) {
-  const std::string name = graphic.name();
-  if (name == "wps:wsp") return ReadShape(graphic, map, sources.Theme(), list);
-  if (name == "pic:pic") return ReadPicture(graphic, map, sources, list);
-  if (name != "wpg:wgp" && name != "wpg:grpSp") return;
+  if (Is(graphic, "wps:wsp")) return ReadShape(graphic, map, sources.Theme(), list);
+  if (Is(graphic, "pic:pic")) return ReadPicture(graphic, map, sources, list);
+  if (!Is(graphic, "wpg:wgp") && !Is(graphic, "wpg:grpSp")) return;
   pugi::xml_node xfrm = graphic.child("wpg:grpSpPr").child("a:xfrm");
   const Box box = BoxOf(xfrm);
   const double chx = Emu(xfrm.child("a:chOff"), "x"), chy = Emu(xfrm.child("a:chOff"), "y");
@@ -334,8 +333,7 @@ std::vector<pugi::xml_node> DrawingsOf(pugi::xml_node body, const char* kind) {
     // Shapes inside text boxes and the fallbacks of older readers are not figures.
     bool nested = false;
     for (pugi::xml_node up = x.node().parent(); up && up != body; up = up.parent())
-      nested = nested || std::strcmp(up.name(), "w:txbxContent") == 0 ||
-               std::strcmp(up.name(), "mc:Fallback") == 0;
+      nested = nested || Is(up, "w:txbxContent") || Is(up, "mc:Fallback");
     if (!nested) anchors.push_back(x.node());
   }
   return anchors;

@@ -4,15 +4,12 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "gallery/xml_name.h"
 #include "runtime/text.h"
 #include "runtime/utf8.h"
 
 namespace lp::gallery {
 namespace {
-
-bool Is(pugi::xml_node node, const char* name) {
-  return std::strcmp(node.name(), name) == 0;
-}
 
 std::u16string Utf16(const char* text) {
   return FromUtf8(text);

@@ -1,5 +1,7 @@
 #include "gallery/theme_colors.h"
 
+#include "gallery/xml_name.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -44,10 +46,6 @@ std::optional<long> Lookup(const Named* table, size_t count, const char* name) {
 
 long Hex(const char* text) {
   return std::strtol(text, nullptr, 16) & 0xFFFFFF;
-}
-
-bool Is(pugi::xml_node node, const char* name) {
-  return std::strcmp(node.name(), name) == 0;
 }
 
 using Rgb = std::array<double, 3>;  // 0..1 each
