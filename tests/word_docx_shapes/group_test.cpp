@@ -154,7 +154,7 @@ TEST(ShapeGroups, ShapesOfAWordFileAreFoundAndKept) {
 // groups and connects in page positions.
 TEST(ShapeGroups, PagePositionsAreKeptFromTheParagraph) {
   TestHost host;
-  host.origin = word::docx::ParagraphOrigin{90, 700};
+  host.origin = TestHost::Origin{90, 700};
   auto shapes = word::docx::MakeShapes(host);
   auto box = shapes->AddShape(word::msoShapeRectangle, 100, 180, 50, 40);
   box->SetName(u"a");

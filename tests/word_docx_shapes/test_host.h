@@ -42,11 +42,17 @@ class TestHost : public word::docx::DocxHost {
     live.Select(anchors, replace);
   }
   std::vector<pugi::xml_node> SelectedShapes() override { return live.Selected(); }
-  std::optional<word::docx::ParagraphOrigin> OriginOf(pugi::xml_node) override { return origin; }
+  std::optional<float> OriginOf(pugi::xml_node, word::docx::OriginEdge edge) override {
+    if (!origin) return std::nullopt;
+    return edge == word::docx::OriginEdge::kColumnLeft ? origin->columnLeft : origin->top;
+  }
 
   pugi::xml_document document;
   // Where the text engine would put the caret's paragraph.
-  std::optional<word::docx::ParagraphOrigin> origin;
+  struct Origin {
+    float columnLeft = 0, top = 0;
+  };
+  std::optional<Origin> origin;
   unsigned lastId = 0;
   int changes = 0;
   pugi::xml_node lastStory;

@@ -296,17 +296,19 @@ std::pair<long, long> DocxDocument::CaretPage() {
   return {caret.pageStart, std::max(caret.pageStart, caret.pageEnd)};
 }
 
-// The estimate knows one text column, from the left margin.
-std::optional<ParagraphOrigin> DocxDocument::OriginOf(pugi::xml_node anchor) {
+// The estimate knows one text column, from the left margin; only the top
+// needs the paragraphs laid out.
+std::optional<float> DocxDocument::OriginOf(pugi::xml_node anchor, OriginEdge edge) {
   pugi::xml_node paragraph = anchor;
   while (paragraph && !Named(paragraph, "w:p")) paragraph = paragraph.parent();
   const StoryIndex& ix = main_->Index();
   long start = 0;
   for (size_t mark : ix.paragraphs) {
     const Segment& s = ix.segments[mark];
-    if (s.node == paragraph)
-      return ParagraphOrigin{Geometry().left,
-                             EstimateCaret(ix, Styles(), Geometry(), start).paragraphY};
+    if (s.node == paragraph) {
+      if (edge == OriginEdge::kColumnLeft) return Geometry().left;
+      return EstimateCaret(ix, Styles(), Geometry(), start).paragraphY;
+    }
     start = s.pos + 1;
   }
   return std::nullopt;

@@ -95,7 +95,7 @@ class DocxDocument : public word::Document, public DocxHost, public StoryOwner {
   std::unique_ptr<word::Range> StoryRange(pugi::xml_node txbxContent) override;
   void SelectShapes(const std::vector<pugi::xml_node>& anchors, bool replace) override;
   std::vector<pugi::xml_node> SelectedShapes() override { return liveAnchors_.Selected(); }
-  std::optional<ParagraphOrigin> OriginOf(pugi::xml_node anchor) override;
+  std::optional<float> OriginOf(pugi::xml_node anchor, OriginEdge edge) override;
 
   // StoryOwner
   bool ShowsCode(pugi::xml_node beginFldChar) const override;

@@ -126,9 +126,10 @@ const char* KeptFrom(Axis axis) {
 }
 
 std::optional<std::int64_t> OriginAlong(DocxHost& host, pugi::xml_node anchor, Axis axis) {
-  const std::optional<ParagraphOrigin> origin = host.OriginOf(anchor);
+  const std::optional<float> origin = host.OriginOf(
+      anchor, axis == Axis::kHorizontal ? OriginEdge::kColumnLeft : OriginEdge::kParagraphTop);
   if (!origin) return std::nullopt;
-  return ToEmu(axis == Axis::kHorizontal ? origin->columnLeft : origin->top);
+  return ToEmu(*origin);
 }
 
 }  // namespace

@@ -14,9 +14,8 @@
 
 namespace word::docx {
 
-struct ParagraphOrigin {
-  float columnLeft = 0, top = 0;
-};
+// The two edges a shape kept beside its paragraph is measured from.
+enum class OriginEdge { kColumnLeft, kParagraphTop };
 
 class DocxHost {
  public:
@@ -45,8 +44,8 @@ class DocxHost {
   virtual std::vector<pugi::xml_node> SelectedShapes() = 0;
   // Where the text engine estimates the body paragraph holding `anchor`
   // stands, in points from the page's corner: the left edge of its text
-  // column and its top. Nothing for an anchor outside the body's paragraphs.
-  virtual std::optional<ParagraphOrigin> OriginOf(pugi::xml_node anchor) = 0;
+  // column, or its top. Nothing for an anchor outside the body's paragraphs.
+  virtual std::optional<float> OriginOf(pugi::xml_node anchor, OriginEdge edge) = 0;
 };
 
 // Implemented by the shape layer.
